@@ -1,0 +1,23 @@
+#pragma once
+
+#include "core/Export.h"
+
+#include <string>
+
+/// Questions about the paths that projects and themes hold. Paths are plain text.
+namespace Utils {
+
+/// Splits `path` at its last backslash or, when it has none, at its last "/".
+///
+/// `directory` is what stands before the separator, empty without one; `name` the file name without
+/// its extension; `extension` the rest from the last "." of the file name on, with the dot, or
+/// empty when the name has no dot. A dot that begins the file name is part of the name too. Any of
+/// the three may be null. An empty `path` gives false and touches nothing.
+VANTREL_API bool GetDirectoryAndFileName(std::string path, std::string* directory,
+                                         std::string* name, std::string* extension);
+
+/// Cuts `path` behind its first "/Content/", so that it names a theme's content folder; a path
+/// without that stays whole. Always gives false.
+VANTREL_API bool GetContentPath(std::string* path);
+
+} // namespace Utils

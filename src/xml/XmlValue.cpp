@@ -1,0 +1,91 @@
+#include "xml/XmlValue.h"
+
+#include "core/XmlText.h"
+
+#include <libxml/entities.h>
+
+namespace vantrel {
+
+namespace {
+
+/// Puts the text of a node list together, with entity references resolved. Entities may refer to
+/// each other, so a few of them can unfold without bound: depth and size are limited.
+class TextUnfolder
+{
+public:
+    explicit TextUnfolder(std::string& out) : m_out(out) {}
+
+    void Add(const xmlNode* list, int depth = 0)
+    {
+        for (const xmlNode* node = list; node; node = node->next) {
+            if (node->type == XML_TEXT_NODE || node->type == XML_CDATA_SECTION_NODE)
+                AddText(node->content);
+            else if (node->type == XML_ENTITY_REF_NODE && depth < kDeepest && --m_references > 0)
+                AddEntity(xmlGetDocEntity(node->doc, node->name), depth);
+        }
+    }
+
+private:
+    void AddEntity(const xmlEntity* entity, int depth)
+    {
+        if (!entity)
+            return;
+        if (entity->etype == XML_INTERNAL_PREDEFINED_ENTITY || !entity->children)
+            AddText(entity->content);
+        else
+            Add(entity->children, depth + 1);
+    }
+
+    void AddText(const xmlChar* content)
+    {
+        if (!content)
+            return;
+        const std::string_view text = Chars(content);
+        if (m_out.size() + text.size() <= kLongest)
+            m_out.append(text);
+    }
+
+    static constexpr int kDeepest = 40;                 // as libxml2 itself bounds nesting
+    static constexpr std::size_t kLongest = 10'000'000; // as libxml2 bounds a text node
+
+    std::string& m_out;
+    int m_references = 100'000;
+};
+
+} // namespace
+
+xmlNode* NextElement(xmlNode* node)
+{
+    while (node && node->type != XML_ELEMENT_NODE)
+        node = node->next;
+    return node;
+}
+
+xmlNode* FindChildElement(const xmlNode* parent, std::string_view name)
+{
+    for (xmlNode* child : ChildElements(parent)) {
+        if (!child->ns && NameOf(child) == name)
+            return child;
+    }
+    return nullptr;
+}
+
+std::string_view ResolvedText(const xmlNode* list, std::string& store)
+{
+    if (!list)
+        return "";
+    if (!list->next && list->type == XML_TEXT_NODE)
+        return list->content ? Chars(list->content) : "";
+    store.clear();
+    TextUnfolder(store).Add(list);
+    return store;
+}
+
+Status AddAttribute(xmlNode* element, const char* name, const std::string& value)
+{
+    std::string mended;
+    const char* text = XmlText(value, mended);
+    return xmlNewProp(element, XmlChars(name), XmlChars(text)) ? status::kOk : status::kNullPointer;
+}
+
+} // namespace vantrel

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "core/Status.h"
+
+#include <libxml/tree.h>
+
+#include <string>
+#include <string_view>
+
+/// Names, texts and children of XML nodes, for the code inside the library.
+namespace vantrel {
+
+inline const xmlChar* XmlChars(const char* text)
+{
+    return reinterpret_cast<const xmlChar*>(text);
+}
+
+inline const char* Chars(const xmlChar* text)
+{
+    return reinterpret_cast<const char*>(text);
+}
+
+/// A node's own name without prefix; empty for null.
+inline std::string_view NameOf(const xmlNode* node)
+{
+    return node && node->name ? std::string_view(Chars(node->name)) : std::string_view();
+}
+
+inline bool IsElement(const xmlNode* node)
+{
+    return node && node->type == XML_ELEMENT_NODE;
+}
+
+/// `node` or the first of its later siblings that is an element, or null.
+xmlNode* NextElement(xmlNode* node);
+
+/// The child elements of a node, in order: `for (xmlNode* child : ChildElements(node))`. What is
+/// found may be unlinked only after the walk has gone on.
+class ChildElements
+{
+public:
+    explicit ChildElements(const xmlNode* parent)
+        : m_first(IsElement(parent) ? NextElement(parent->children) : nullptr)
+    {}
+
+    class Iterator
+    {
+    public:
+        explicit Iterator(xmlNode* node) : m_node(node) {}
+        xmlNode* operator*() const { return m_node; }
+        Iterator& operator++()
+        {
+            m_node = NextElement(m_node->next);
+            return *this;
+        }
+        bool operator!=(const Iterator& other) const { return m_node != other.m_node; }
+
+    private:
+        xmlNode* m_node;
+    };
+
+    Iterator begin() const { return Iterator(m_first); }
+    Iterator end() const { return Iterator(nullptr); }
+
+private:
+    xmlNode* m_first;
+};
+
+/// The first child element of that name without a namespace, or null.
+xmlNode* FindChildElement(const xmlNode* parent, std::string_view name);
+
+/// The text of a list of text and entity reference nodes, as it stands under an attribute, with the
+/// references resolved. The view is into the document, or into `store` when the text had to be put
+/// together. References that would unfold into more than a document may hold are left out.
+std::string_view ResolvedText(const xmlNode* list, std::string& store);
+
+/// Adds an attribute that `element` doesn't have yet, its value made fit for a file. An `element`
+/// that may have it already wants `xmlSetProp`. Gives `status::kNullPointer` when that fails.
+Status AddAttribute(xmlNode* element, const char* name, const std::string& value);
+
+} // namespace vantrel
