@@ -33,7 +33,7 @@ void Put(D3DXVECTOR3* out, float x, float y)
 
 // The tracks of three components. The Z bit of a rotation is the lowest of its bits.
 // clang-format off
-const CVCPTransformImpl::VectorRow CVCPTransformImpl::kVectorRows[] = {
+const CVCPTransformImpl::VectorRow CVCPTransformImpl::kVectorRows[4] = {
     { TRANSFORM_TRANSLATION, 0x1, 0x2, 0x4, { 0, 0, 0 }, &CVCPTransformImpl::m_translation,
       &CVCPTransformImpl::m_lastTranslation, &CVCPTransformImpl::m_translationDelta },
     { TRANSFORM_ROTATION, 0x20, 0x40, 0x10, { 0, 0, 0 }, &CVCPTransformImpl::m_rotation,

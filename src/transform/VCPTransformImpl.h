@@ -240,7 +240,7 @@ protected:
 
 private:
     struct VectorRow;
-    static const VectorRow kVectorRows[];
+    static const VectorRow kVectorRows[4];
     static const VectorRow* FindRow(unsigned long mask);
 
     template <class Self, class Operation>
