@@ -1,6 +1,7 @@
 #include "transform/VCPKeyframeData.h"
 
 #include "core/Property.h"
+#include "transform/VCPFinite.h"
 
 #include <cmath>
 #include <iterator>
@@ -69,7 +70,7 @@ void CVCPKeyframeData<T, S>::SetName(std::string name)
 template <class T, class S>
 void CVCPKeyframeData<T, S>::SetDuration(double seconds)
 {
-    m_duration = std::isfinite(seconds) ? seconds : 0.0;
+    m_duration = vantrel::FiniteOrZero(seconds);
 }
 
 template <class T, class S>
@@ -77,7 +78,7 @@ Status CVCPKeyframeData<T, S>::SetValue(double time, KVC_KEYFRAME_TYPE type, T v
                                         unsigned long caps)
 {
     Map* keys = GetMap(type);
-    if (!keys || !std::isfinite(time))
+    if (!keys || !std::isfinite(time) || !vantrel::IsFinite(value))
         return status::kBadArgument;
     keys->insert_or_assign(time, KEY_ELEM{ value, caps });
     return status::kOk;

@@ -37,8 +37,8 @@ inline constexpr auto kAllKeyframes = static_cast<KVC_KEYFRAME_TYPE>(
 /// fractions in the percentage map, and are compared exactly. `T` is the value type and `S` the
 /// stateless class that writes and reads one value.
 ///
-/// A `type` that names none of the three maps gives `status::kBadArgument`, and so does a key time
-/// that is not finite: the maps could not order it.
+/// A `type` that names none of the three maps gives `status::kBadArgument`, and so does a key whose
+/// time or value is not finite: it could be neither ordered nor blended.
 template <class T, class S>
 class VANTREL_API CVCPKeyframeData
 {

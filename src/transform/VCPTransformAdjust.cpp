@@ -1,5 +1,7 @@
 #include "transform/VCPTransformRows.h"
 
+#include "transform/VCPFinite.h"
+
 #include <algorithm>
 
 using vantrel::VectorTrack;
@@ -32,7 +34,7 @@ Status CVCPTransformImpl::Adjust3DKeyframesIntl(unsigned long mask, float x, flo
                                                 bool onlyType, KVC_KEYFRAME_TYPE type)
 {
     const VectorRow* row = FindRow(mask);
-    if (!row)
+    if (!row || !vantrel::IsFinite(D3DXVECTOR3(x, y, z)))
         return status::kBadArgument;
     VectorTrack& track = this->*row->track;
     if (!track.HasKeys())
@@ -103,7 +105,7 @@ void CVCPTransformImpl::AdjustPathValues(unsigned long mask, KVC_KEYFRAME_TYPE t
 {
     const VectorRow* row = FindRow(mask);
     VectorTrack::Map* keys = row ? (this->*row->track).GetMap(type) : nullptr;
-    if (!keys || !element)
+    if (!keys || !element || !vantrel::IsFinite(element->value))
         return;
     if (keys->empty()) {
         if (type == KVC_KEYFRAME_START_OFFSET)

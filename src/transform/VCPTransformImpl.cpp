@@ -165,9 +165,7 @@ Status CVCPTransformImpl::DeleteAllKeys(unsigned long mask, KVC_KEYFRAME_TYPE ty
 
 Status CVCPTransformImpl::SetDuration(double seconds)
 {
-    for (const VectorRow& row : kVectorRows)
-        (this->*row.track).SetDuration(seconds);
-    m_opacity.SetDuration(seconds);
+    ForEachTrack([=](auto& track) { track.SetDuration(seconds); });
     return status::kOk;
 }
 

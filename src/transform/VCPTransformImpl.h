@@ -5,7 +5,7 @@
 #include "core/Types.h"
 #include "transform/VCPKeyframeData.h"
 
-#include <cstdint>
+#include <span>
 #include <utility>
 
 /// @name Track masks
@@ -191,7 +191,13 @@ public:
     /// @name File form
     /// The children of the element of a transform; there is no element around them.
     /// @{
+    /// Adds the children. Of earlier ones only the tracks, "IsSelectable", "IsEditable" and "Caps"
+    /// go; see `ReplaceXML`.
     Status SaveXML(_xmlNode* node) const;
+
+    /// Writes into an element that holds a transform already: takes all its children out first, so
+    /// that nothing stale is read back.
+    Status ReplaceXML(_xmlNode* node) const;
 
     /// Adds the keys of `node` to those present, and takes the other values over.
     Status LoadXML(_xmlNode* node);
@@ -243,8 +249,13 @@ private:
     static const VectorRow kVectorRows[4];
     static const VectorRow* FindRow(unsigned long mask);
 
+    struct XmlRow;
+    static std::span<const XmlRow> XmlRows();
+
     template <class Self, class Operation>
     static Status WithTrack(Self& self, unsigned long mask, Operation operation);
+    template <class Operation>
+    void ForEachTrack(Operation operation);
 
     bool IsTurnedScroll() const;
     D3DXVECTOR3 HandlesInModelUnits() const;

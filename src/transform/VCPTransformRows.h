@@ -12,3 +12,12 @@ struct CVCPTransformImpl::VectorRow
     D3DXVECTOR3 CVCPTransformImpl::*last;
     D3DXVECTOR3 CVCPTransformImpl::*delta;
 };
+
+/// The one place that knows all tracks.
+template <class Operation>
+void CVCPTransformImpl::ForEachTrack(Operation operation)
+{
+    for (const VectorRow& row : kVectorRows)
+        operation(this->*row.track);
+    operation(m_opacity);
+}
