@@ -15,6 +15,7 @@ namespace {
 constexpr auto S = KVC_KEYFRAME_START_OFFSET;
 constexpr auto E = KVC_KEYFRAME_END_OFFSET;
 constexpr auto P = KVC_KEYFRAME_PERCENTAGE;
+constexpr unsigned long T = TRANSFORM_TRANSLATION, R = TRANSFORM_ROTATION, C = TRANSFORM_SCALING;
 
 /// Shows the sums of the adjustments, and takes a scroll speed without a file.
 struct Transform : CVCPTransformImpl
@@ -35,38 +36,15 @@ struct Transform : CVCPTransformImpl
     }
     Floats DeltaOf(unsigned long mask) const
     {
-        const D3DXVECTOR3& v = mask == TRANSFORM_SCALING    ? m_scalingDelta
-                               : mask == TRANSFORM_ROTATION ? m_rotationDelta
-                                                            : m_translationDelta;
+        const D3DXVECTOR3& v = mask == C   ? m_scalingDelta
+                               : mask == R ? m_rotationDelta
+                                           : m_translationDelta;
         return { v.x, v.y, v.z };
     }
     using CVCPTransformImpl::m_speed;
 };
 
 } // namespace
-
-TEST(TransformKeys, AMaskPicksItsTrackAndNoOther)
-{
-    const unsigned long masks[] = { TRANSFORM_OPACITY, TRANSFORM_TRANSLATION, TRANSFORM_ROTATION,
-                                    TRANSFORM_SCALING, TRANSFORM_HANDLES };
-    CVCPTransformImpl transform;
-    for (int i = 0; i < 5; ++i) {
-        for (int time = 0; time <= i; ++time) {
-            transform.Set3DKeyframe(masks[i], time, E, 0, 0, 0, 0);
-            transform.SetOpacityKey(time + i, E, 9, 0);
-        }
-    }
-    Floats counts;
-    for (const unsigned long mask : masks) {
-        int count = 0;
-        EXPECT_EQ(transform.MoveKey(mask, E, 0, 9), status::kOk);
-        EXPECT_EQ(transform.DeleteKey(mask, 0, E), status::kNothingDone);
-        EXPECT_EQ(transform.GetKeyCount(mask, &count), status::kOk);
-        counts.push_back(static_cast<float>(count));
-    }
-    EXPECT_THAT(counts, ElementsAre(9, 2, 3, 4, 5));
-    EXPECT_EQ(transform.GetKeyframes(TRANSFORM_OPACITY), nullptr);
-}
 
 TEST(TransformKeys, OtherMasksHaveNoTrack)
 {
@@ -76,29 +54,29 @@ TEST(TransformKeys, OtherMasksHaveNoTrack)
     for (const unsigned long mask : { 0x3UL, 0UL, 0x73FFFUL }) {
         EXPECT_EQ(transform.Set3DKeyframe(mask, 0, S, 0, 0, 0, 0), status::kBadArgument);
         EXPECT_EQ(transform.Get3DKeyframe(mask, 0, S, &x, &x, &x, nullptr), status::kBadArgument);
-        EXPECT_EQ(transform.Get3DKeyInterpolatedValue(mask, 0, &x, &x, &x), status::kBadArgument);
         EXPECT_EQ(transform.GetKeyCount(mask, &count), status::kBadArgument);
         EXPECT_EQ(transform.DeleteAllKeys(mask, kAllKeyframes), status::kBadArgument);
         EXPECT_EQ(transform.Adjust3DKeyframes(mask, 1, 1, 1), status::kBadArgument);
     }
     EXPECT_EQ(x + float(count), 10);
+    EXPECT_EQ(transform.GetKeyframes(TRANSFORM_OPACITY), nullptr);
+    EXPECT_EQ(transform.GetKeyCount(TRANSFORM_OPACITY, &count), status::kOk);
+    EXPECT_EQ(count, 0);
 }
 
 TEST(TransformKeys, AMissingKeyGivesTheRestingValue)
 {
     CVCPTransformImpl transform;
-    Floats v{ 7, 7, 7 };
-    const auto read = [&](unsigned long mask) {
-        return transform.Get3DKeyframe(mask, 1, S, &v[0], &v[1], nullptr, nullptr);
-    };
-    EXPECT_EQ(read(TRANSFORM_SCALING), status::kBadArgument); // an empty map
-    EXPECT_THAT(v, ElementsAre(7, 7, 7));
-    transform.Set3DKeyframe(TRANSFORM_SCALING, 0, S, 5, 5, 5, 1);
-    transform.Set3DKeyframe(TRANSFORM_HANDLES, 0, S, 5, 5, 5, 1);
-    EXPECT_EQ(read(TRANSFORM_SCALING), status::kNothingDone);
-    EXPECT_THAT(v, ElementsAre(1, 1, 7));
-    EXPECT_EQ(read(TRANSFORM_HANDLES), status::kNothingDone);
-    EXPECT_THAT(v, ElementsAre(0, 0, 7));
+    for (const unsigned long mask : { C, TRANSFORM_HANDLES }) {
+        float x = 7;
+        EXPECT_EQ(transform.Get3DKeyframe(mask, 1, S, &x, nullptr, nullptr, nullptr),
+                  status::kBadArgument); // an empty map
+        EXPECT_EQ(x, 7);
+        transform.Set3DKeyframe(mask, 0, S, 5, 5, 5, 1);
+        EXPECT_EQ(transform.Get3DKeyframe(mask, 1, S, &x, nullptr, nullptr, nullptr),
+                  status::kNothingDone);
+        EXPECT_EQ(x, mask == C ? 1 : 0);
+    }
 }
 
 TEST(TransformProperties, ChangeWithinTheirBounds)
@@ -153,7 +131,6 @@ TEST_P(Adjustment, ShiftsTheAxesThatAKeyAllows)
     EXPECT_THAT(transform.DeltaOf(mask), ElementsAre(0, 0, 0));
 }
 
-constexpr unsigned long T = TRANSFORM_TRANSLATION, R = TRANSFORM_ROTATION, C = TRANSFORM_SCALING;
 // clang-format off
 INSTANTIATE_TEST_SUITE_P(Rows, Adjustment, testing::Values(
     AdjustCase{ "OneAxis", T, 0x1, { 10, 20, 30 }, { 11, 1, 1 }, { 10, 0, 0 } },
@@ -170,8 +147,8 @@ TEST(Adjustments, MakeAKeyWhereThereIsNone)
     EXPECT_EQ(transform.Adjust3DKeyframes(R, NAN, 0, 0), status::kBadArgument);
     transform.Adjust3DKeyframes(R, 1, 2, 3);
     EXPECT_THAT(transform.KeyAt(R, 0), ElementsAre(1, 2, 3));
-    transform.Adjust3DKeyframesIntl(TRANSFORM_HANDLES, 1, 2, 3, true, E);
-    EXPECT_THAT(transform.KeyAt(TRANSFORM_HANDLES, 0), ElementsAre(0, 0, 0));
+    transform.Adjust3DKeyframesIntl(C, 1, 2, 3, true, E);
+    EXPECT_THAT(transform.KeyAt(C, 0), ElementsAre(1, 1, 1));
     transform.AdjustOpacityKeyframes(static_cast<unsigned long>(-55L));
     EXPECT_THAT(transform.Opacities(), ElementsAre(200, 0, 0, -55));
 }
