@@ -78,24 +78,30 @@ TEST(EffectHandle, SetsThePoseInACopyOfLentData)
 TEST(EffectHandle, ReachesThePartsOfTheCompleteObject)
 {
     CMotionObject motion;
-    CEffectObject effect;
     CQZEffect handle;
-    double number = 0;
-    string path;
-    long id = 0;
     handle.Attach(&motion);
-    EXPECT_EQ(handle.setStartOffset(1), status::kOk);
+    EXPECT_EQ(handle.setStartOffset(1) + handle.setEndOffset(2) + handle.setInPoint(3) +
+                  handle.setOutPoint(4) + handle.setSourceRotation(5) + handle.setSource("a.mpg") +
+                  handle.setAlphaMask("mask.png"),
+              status::kOk);
     EXPECT_EQ(handle.setEndOffset(NAN), status::kBadArgument);
-    EXPECT_EQ(handle.setInPoint(3), status::kOk);
-    EXPECT_EQ(handle.setSource("a.mpg"), status::kOk);
-    EXPECT_EQ(handle.setAlphaMask("mask.png"), status::kOk);
-    EXPECT_EQ(motion.m_startOffset + motion.m_endOffset + motion.m_inPoint, 4);
+    EXPECT_THAT((std::vector<double>{ motion.m_startOffset, motion.m_endOffset, motion.m_inPoint,
+                                      motion.m_outPoint, double(motion.m_rotation) }),
+                testing::ElementsAre(1, 2, 3, 4, 5));
     EXPECT_EQ(motion.m_fileName + motion.m_alphaFile->m_fileName, "a.mpgmask.png");
-    handle.Attach(&effect); // has a place and no source
-    effect.put_ID(12);
-    EXPECT_EQ(handle.getID(&id), status::kOk);
-    EXPECT_EQ(id, 12);
-    EXPECT_EQ(handle.getStartOffset(&number), status::kOk);
+    double read = 0;
+    for (const auto get : { &CQZEffect::getStartOffset, &CQZEffect::getEndOffset,
+                            &CQZEffect::getInPoint, &CQZEffect::getOutPoint }) {
+        const double last = read;
+        EXPECT_EQ((handle.*get)(&read), status::kOk);
+        EXPECT_EQ(read, last + 1);
+    }
+    string path;
+    EXPECT_EQ(handle.getSource(&path), status::kOk);
+    EXPECT_EQ(path, "a.mpg");
+
+    CEffectObject effect; // has a place and no source
+    handle.Attach(&effect);
     EXPECT_EQ(handle.getStartOffset(nullptr), status::kNullPointer);
     EXPECT_EQ(handle.getSource(&path), status::kNothingDone);
     EXPECT_EQ(handle.setOutPoint(1), status::kNothingDone);
