@@ -5,6 +5,7 @@
 
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 using std::string;
@@ -167,14 +168,15 @@ private:
     string m_store;
 };
 
-/// Stands in `_private` of a document to which subtrees may be lent.
+/// Stands in `_private` of a document to which subtrees may be lent. Its `psvi`, which nothing else
+/// uses in a tree, is the last subtree that was lent, and `_private` of that one's own document the
+/// subtree before.
 constexpr char kBorrower = 0;
 
-/// The node behind `node` in document order below `top`, or null. `Enter` tells whether what stands
-/// below `node` counts.
-xmlNode* NextBelow(const xmlNode* top, xmlNode* node, bool enter = true)
+/// The node behind `node` in document order below `top`, or null.
+xmlNode* NextBelow(const xmlNode* top, xmlNode* node)
 {
-    if (enter && IsElement(node) && node->children)
+    if (IsElement(node) && node->children)
         return node->children;
     while (node != top && !node->next)
         node = node->parent;
@@ -317,27 +319,27 @@ Status AppendKeptXml(xmlNode* parent, const KeptXmlPtr& kept)
     kept->prev = parent->last;
     (parent->last ? parent->last->next : parent->children) = kept.get();
     parent->last = kept.get();
+    kept->doc->_private = std::exchange(parent->doc->psvi, kept.get());
     return status::kOk;
 }
 
 XmlLoan::XmlLoan(xmlDoc* doc) : m_doc(doc)
 {
     m_doc->_private = const_cast<char*>(&kBorrower);
+    m_doc->psvi = nullptr;
+    if (!m_doc->dict)
+        m_doc->dict = xmlDictCreate(); // names and short texts are stored once
 }
 
 XmlLoan::~XmlLoan()
 {
-    m_doc->_private = nullptr;
-    xmlNode* const root = xmlDocGetRootElement(m_doc);
-    for (xmlNode* node = root; node;) {
-        const bool isLent = node->doc != m_doc;
-        xmlNode* const next = NextBelow(root, node, !isLent);
-        if (isLent) {
-            xmlUnlinkNode(node);
-            node->parent = AsParent(node->doc);
-        }
-        node = next;
+    while (m_doc->psvi) {
+        xmlNode* lent = static_cast<xmlNode*>(m_doc->psvi);
+        m_doc->psvi = std::exchange(lent->doc->_private, nullptr);
+        xmlUnlinkNode(lent);
+        lent->parent = AsParent(lent->doc);
     }
+    m_doc->_private = nullptr;
 }
 
 } // namespace vantrel

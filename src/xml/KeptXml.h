@@ -37,8 +37,9 @@ Status AppendXmlCopy(xmlNode* parent, const xmlNode* node);
 Status AppendKeptXml(xmlNode* parent, const KeptXmlPtr& kept);
 
 /// Lets kept subtrees be lent to a document that is saved and released at once, so that a save need
-/// not copy them. Lives between the making of the document and its release, and hands everything
-/// back. While it lives, nothing may be moved in the document, and no lender may go.
+/// not copy them. Lives between the making of the document, whose `_private` and `psvi` it needs,
+/// and its release, and hands everything back. While it lives, nothing may be moved in the document,
+/// and no lender may go. The document gets a dictionary, if it has none.
 class XmlLoan
 {
 public:

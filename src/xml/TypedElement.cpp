@@ -5,10 +5,33 @@
 #include "xml/XmlPtr.h"
 #include "xml/XmlValue.h"
 
+#include <algorithm>
+#include <climits>
+
 using std::string;
 using std::string_view;
 
 namespace vantrel {
+
+namespace {
+
+/// A text node. Types and values repeat, so a dictionary holds the short ones, where there is one.
+xmlNode* NewText(xmlDoc* doc, string_view text)
+{
+    constexpr std::size_t longest = 24;
+    xmlNode* node = xmlNewDocText(doc, nullptr);
+    if (!node)
+        return nullptr;
+    const xmlChar* content = XmlChars(text.data());
+    const int size = static_cast<int>(std::min<std::size_t>(text.size(), INT_MAX));
+    if (doc && doc->dict && text.size() <= longest)
+        node->content = const_cast<xmlChar*>(xmlDictLookup(doc->dict, content, size));
+    else
+        node->content = xmlStrndup(content, size);
+    return node;
+}
+
+} // namespace
 
 xmlNode* AddElement(xmlNode* parent, const char* name)
 {
@@ -28,11 +51,15 @@ xmlNode* AddTypedElement(xmlNode* parent, const char* element, string_view name,
         (void)AddAttribute(added, "Name", string(name));
     if (!*type)
         return added;
-    xmlNewProp(added, XmlChars("dt:dt"), XmlChars(type));
+    if (xmlAttr* word = xmlNewProp(added, XmlChars("dt:dt"), nullptr)) {
+        word->children = word->last = NewText(added->doc, type);
+        if (word->children)
+            word->children->parent = reinterpret_cast<xmlNode*>(word);
+    }
     string mended;
-    XmlNodePtr value{ xmlNewDocText(added->doc, XmlChars(XmlText(text, mended))) };
-    if (value)
-        xmlAddChild(added, value.release());
+    added->children = added->last = NewText(added->doc, XmlText(text, mended));
+    if (added->children)
+        added->children->parent = added;
     return added;
 }
 
