@@ -126,8 +126,11 @@ private:
     {
         if (!ns)
             return Chars(name);
-        if ((m_used.empty() || m_used.back() != ns) && m_known.insert(ns).second)
-            m_used.push_back(ns);
+        if (ns != m_lastUsed) {
+            m_lastUsed = ns;
+            if (!IsDataTypes(ns) && m_known.insert(ns).second)
+                m_used.push_back(ns);
+        }
         if (!ns->prefix)
             return Chars(name);
         m_name = Chars(ns->prefix);
@@ -159,6 +162,7 @@ private:
     }
 
     xmlDoc* m_target;
+    const xmlNs* m_lastUsed = nullptr;
     std::vector<const xmlNs*> m_used; ///< in the order of their first use
     std::set<const xmlNs*> m_known;   ///< the same
     std::set<const xmlNs*> m_declared;
