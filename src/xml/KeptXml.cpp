@@ -12,8 +12,6 @@ namespace vantrel {
 
 namespace {
 
-constexpr const char* kDataTypes = "urn:schemas-microsoft-com:datatypes";
-
 /// Copies a subtree with plain names, and notes which prefixes it uses without declaring them.
 class PlainCopier
 {
@@ -89,7 +87,7 @@ private:
     {
         const std::string_view uri = ns->href ? Chars(ns->href) : "";
         m_declared.insert(ns);
-        if (uri == kDataTypes && ns->prefix && std::string_view(Chars(ns->prefix)) == "dt")
+        if (uri == kDataTypesUri && ns->prefix && std::string_view(Chars(ns->prefix)) == "dt")
             return; // the root of every file declares it
         string name = "xmlns";
         if (ns->prefix)

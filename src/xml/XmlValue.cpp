@@ -70,6 +70,14 @@ xmlNode* FindChildElement(const xmlNode* parent, std::string_view name)
     return nullptr;
 }
 
+const xmlAttr* FindAttribute(const xmlNode* element, std::string_view name)
+{
+    const xmlAttr* attribute = IsElement(element) ? element->properties : nullptr;
+    while (attribute && (attribute->ns || Chars(attribute->name) != name))
+        attribute = attribute->next;
+    return attribute;
+}
+
 std::string_view ResolvedText(const xmlNode* list, std::string& store)
 {
     if (!list)

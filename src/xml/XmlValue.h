@@ -10,6 +10,9 @@
 /// Names, texts and children of XML nodes, for the code inside the library.
 namespace vantrel {
 
+/// What the prefix "dt" of typed elements stands for; the root of every project file declares it.
+inline constexpr const char* kDataTypesUri = "urn:schemas-microsoft-com:datatypes";
+
 inline const xmlChar* XmlChars(const char* text)
 {
     return reinterpret_cast<const xmlChar*>(text);
@@ -68,6 +71,9 @@ private:
 
 /// The first child element of that name without a namespace, or null.
 xmlNode* FindChildElement(const xmlNode* parent, std::string_view name);
+
+/// The attribute of that name without a namespace, or null.
+const xmlAttr* FindAttribute(const xmlNode* element, std::string_view name);
 
 /// The text of a list of text and entity reference nodes, as it stands under an attribute, with the
 /// references resolved. The view is into the document, or into `store` when the text had to be put

@@ -1,0 +1,32 @@
+#include "project/NodeFactory.h"
+
+#include "disc/DSCommandList.h"
+#include "disc/DSDataFile.h"
+#include "disc/DSEncodingParams.h"
+#include "disc/DSTitle.h"
+
+namespace vantrel {
+
+std::unique_ptr<CProjectNode> MakeNode(eNodeType type)
+{
+    switch (type) {
+    case eNodeTitle:
+        return std::make_unique<CDSTitle>();
+    case eNodeFile:
+        return std::make_unique<CDSDataFile>();
+    case eNodeCommand:
+        return std::make_unique<CDiscCommandNode>();
+    default:
+        return nullptr;
+    }
+}
+
+void MakeFixedChild(CProjectNode& parent, eNodeType type)
+{
+    if (parent.GetType() != eNodeTitle || (type != eNodeCommands && type != eNodeEncoding))
+        return;
+    parent.AdoptChild(std::make_unique<CDSCommandList>(), false);
+    parent.AdoptChild(std::make_unique<CDSEncodingParams>(), false);
+}
+
+} // namespace vantrel
