@@ -22,7 +22,7 @@ void ShowMenus(Page& page, const Json& menus)
         return;
     page.Heading("Menus");
     for (const Json& menu : menus)
-        page.Item(menu["id"].dump());
+        page.Entry(menu["id"].dump(), "");
 }
 
 } // namespace tool

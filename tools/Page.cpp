@@ -7,7 +7,9 @@ namespace tool {
 
 namespace {
 
-constexpr std::size_t kFieldWidth = 12;
+constexpr std::size_t kIndent = 2;
+constexpr std::size_t kIDWidth = 6;
+constexpr std::size_t kNameWidth = 12;
 
 /// A character at the front of a text: its length in bytes, 1 for a byte that is no UTF-8.
 struct Character
@@ -91,16 +93,28 @@ void Page::Heading(std::string_view text)
 
 void Page::Field(std::string_view name, std::string_view value)
 {
-    if (value.empty())
-        return;
-    m_text += "  ";
-    AppendPadded(m_text, name, kFieldWidth);
-    m_text += Printable(value) + '\n';
+    Named(kIndent, name, value);
 }
 
-void Page::Item(std::string_view text)
+void Page::Entry(std::string_view id, std::string_view text)
 {
-    m_text += "  " + Printable(text) + '\n';
+    m_text.append(kIndent, ' ');
+    AppendPadded(m_text, Printable(id), kIDWidth);
+    m_text += Printable(text) + '\n';
+}
+
+void Page::Detail(std::string_view name, std::string_view value)
+{
+    Named(kIndent + kIDWidth, name, value);
+}
+
+void Page::Named(std::size_t indent, std::string_view name, std::string_view value)
+{
+    if (value.empty())
+        return;
+    m_text.append(indent, ' ');
+    AppendPadded(m_text, name, kNameWidth);
+    m_text += Printable(value) + '\n';
 }
 
 void Page::Table(const std::vector<std::vector<std::string>>& rows)
@@ -114,7 +128,7 @@ void Page::Table(const std::vector<std::vector<std::string>>& rows)
     for (const auto& row : rows) {
         std::string line;
         for (std::size_t i = 0; i < row.size(); ++i) {
-            line += "  ";
+            line.append(kIndent, ' ');
             AppendPadded(line, Printable(row[i]), widths[i]);
         }
         line.erase(line.find_last_not_of(' ') + 1);

@@ -20,8 +20,11 @@ public:
     /// A named value of a block. An empty value is left out.
     void Field(std::string_view name, std::string_view value);
 
-    /// A line of a block.
-    void Item(std::string_view text);
+    /// An entry of a block that is a list: its ID and what it is called.
+    void Entry(std::string_view id, std::string_view text);
+
+    /// A named value of the entry above. An empty value is left out.
+    void Detail(std::string_view name, std::string_view value);
 
     /// Lines whose cells stand in columns.
     void Table(const std::vector<std::vector<std::string>>& rows);
@@ -29,6 +32,8 @@ public:
     const std::string& text() const { return m_text; }
 
 private:
+    void Named(std::size_t indent, std::string_view name, std::string_view value);
+
     std::string m_text;
 };
 

@@ -7,7 +7,9 @@
 #include <cstdio>
 #include <cstring>
 #include <fcntl.h>
+#include <filesystem>
 #include <memory>
+#include <system_error>
 #include <unistd.h>
 
 using std::string;
@@ -69,21 +71,32 @@ string Message(const string& what, Status result)
     return what + " (" + code + ")";
 }
 
+string UnreadableText(const string& path)
+{
+    if (access(path.c_str(), R_OK) != 0)
+        return string("can't be read: ") + std::strerror(errno);
+    std::error_code ignored;
+    if (std::filesystem::is_directory(path, ignored))
+        return "is a folder";
+    return "is no well-formed XML file";
+}
+
+string OldVersionText(unsigned long version)
+{
+    const string needed =
+        ": " + std::to_string(vantrel::kOldestFileVersion) + " or later is needed";
+    if (version == 0)
+        return "has no version" + needed;
+    return "version " + std::to_string(version) + " is too old" + needed;
+}
+
 string LoadMessage(const string& path, Status result)
 {
     switch (result) {
     case status::kUnreadableFile:
-        if (access(path.c_str(), R_OK) != 0)
-            return Message(string("can't be read: ") + std::strerror(errno), result);
-        return Message("is no well-formed XML file", result);
-    case status::kOldVersion: {
-        const unsigned long version = FileVersion(path);
-        const string oldest = std::to_string(vantrel::kOldestFileVersion);
-        return Message(version == 0 ? "has no version: " + oldest + " or later is needed"
-                                    : "version " + std::to_string(version) +
-                                          " is too old: " + oldest + " or later is needed",
-                       result);
-    }
+        return Message(UnreadableText(path), result);
+    case status::kOldVersion:
+        return Message(OldVersionText(FileVersion(path)), result);
     case status::kNullPointer:
         return Message("is an empty document", result);
     default:
@@ -125,7 +138,8 @@ unsigned long FileVersion(const string& path)
     unsigned long version = 0;
     while (reader && xmlTextReaderRead(reader.get()) == 1) {
         const auto* name = reinterpret_cast<const char*>(xmlTextReaderConstName(reader.get()));
-        if (xmlTextReaderDepth(reader.get()) != 1 || std::strcmp(name, "Project") != 0)
+        if (xmlTextReaderNodeType(reader.get()) != XML_READER_TYPE_ELEMENT ||
+            xmlTextReaderDepth(reader.get()) != 1 || std::strcmp(name, "Project") != 0)
             continue;
         const unsigned char attribute[] = "Version";
         const std::unique_ptr<xmlChar, vantrel::XmlRelease> value(

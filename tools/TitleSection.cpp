@@ -35,13 +35,12 @@ void ShowTitles(Page& page, const Json& titles)
     if (titles.empty())
         return;
     page.Heading("Titles");
-    std::vector<std::vector<string>> rows;
     for (const Json& title : titles) {
-        rows.push_back(
-            { title["id"].dump(), title["label"], NamesOf(title["tag"]),
-              List({ EncodingText(title["encoding"]), CommandText(title["commands"]) }) });
+        page.Entry(title["id"].dump(), string(title["label"]));
+        page.Detail("Tag", NamesOf(title["tag"]));
+        page.Detail("Encoding", EncodingText(title["encoding"]));
+        page.Detail("Commands", CommandText(title["commands"]));
     }
-    page.Table(rows);
 }
 
 } // namespace tool
