@@ -9,8 +9,10 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <ctime>
 #include <fstream>
 #include <malloc.h>
+#include <memory>
 
 using std::string;
 
@@ -51,9 +53,12 @@ Measurement Watch(Function work)
 {
     const double before = StartMemory();
     const auto start = std::chrono::steady_clock::now();
+    const std::clock_t processorStart = std::clock();
     work();
+    const std::clock_t processor = std::clock() - processorStart;
     const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;
-    return { taken.count(), MemoryNow("VmHWM") - before };
+    return { taken.count(), static_cast<double>(processor) / CLOCKS_PER_SEC,
+             MemoryNow("VmHWM") - before };
 }
 
 /// The project's destruction is no part of it.

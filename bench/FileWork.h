@@ -15,7 +15,8 @@ enum class Work
 
 struct Measurement
 {
-    double seconds = 0.0;
+    double seconds = 0.0;   ///< by the clock
+    double processor = 0.0; ///< seconds that the processor worked, which no other program disturbs
     double kilobytes = 0.0; ///< peak of resident memory above what was there before the work
 };
 
