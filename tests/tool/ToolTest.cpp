@@ -30,8 +30,8 @@ protected:
     /// Runs the command; `Path` and `Written` give arguments in quotes for the shell.
     int Run(const string& arguments)
     {
-        const string command = "'" VANTREL_TOOL "' " + arguments + " >'" + m_folder / "out" + "' 2>'" +
-                               m_folder / "err" + "'";
+        const string command = "'" VANTREL_TOOL "' " + arguments + " >'" + m_folder / "out" +
+                               "' 2>'" + m_folder / "err" + "'";
         const int status = std::system(command.c_str());
         m_out = ReadFile(m_folder / "out");
         m_err = ReadFile(m_folder / "err");
