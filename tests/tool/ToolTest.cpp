@@ -13,7 +13,6 @@ namespace {
 using std::string;
 using testing::HasSubstr;
 using testing::MatchesRegex;
-using testing::Not;
 using Json = nlohmann::json;
 
 const string kTravelDisc = EXAMPLES_FOLDER "/travel-disc/Content/travel-disc.xml";
