@@ -8,8 +8,10 @@ source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 prefix=$1
 scratch=$2
 mkdir -p "$scratch"
-export PKG_CONFIG_PATH="$prefix/lib/pkgconfig:$prefix/lib/$(gcc -print-multiarch)/pkgconfig"
+multiarch=$(gcc -print-multiarch)
+export PKG_CONFIG_PATH="$prefix/lib/pkgconfig:$prefix/lib/$multiarch/pkgconfig"
 # pkg-config escapes blanks in its answers for the shell to take out again.
+cflags=() libs=() libdir=
 eval "cflags=($(pkg-config --cflags vantrel))"
 eval "libs=($(pkg-config --libs vantrel))"
 eval "libdir=$(pkg-config --variable=libdir vantrel)"
