@@ -1,7 +1,6 @@
 #pragma once
 
 #include "core/Property.h"
-#include "project/NodeFactory.h"
 #include "project/ProjectNode.h"
 
 #include <string>
@@ -9,6 +8,7 @@
 namespace vantrel {
 template <class Node>
 class AttributeTable;
+void MakeFixedChild(CProjectNode& parent, eNodeType type);
 }
 
 /// One playable title of the disc. Titles live in the project's "Titles" list.
