@@ -8,8 +8,8 @@
 namespace vantrel {
 template <class Node>
 class AttributeTable;
-void MakeFixedChild(CProjectNode& parent, eNodeType type);
-}
+void MakeFixedChild(CProjectNode& parent, eNodeType type); // of project/NodeFactory.h
+} // namespace vantrel
 
 /// One playable title of the disc. Titles live in the project's "Titles" list.
 ///
