@@ -8,8 +8,10 @@ source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 prefix=$1
 scratch=$2
 mkdir -p "$scratch"
-export PKG_CONFIG_PATH="$prefix/lib/pkgconfig:$prefix/lib/$(gcc -print-multiarch)/pkgconfig"
+multiarch=$(gcc -print-multiarch)
+export PKG_CONFIG_PATH="$prefix/lib/pkgconfig:$prefix/lib/$multiarch/pkgconfig"
 # pkg-config escapes blanks in its answers for the shell to take out again.
+cflags=() libs=() libdir=
 eval "cflags=($(pkg-config --cflags vantrel))"
 eval "libs=($(pkg-config --libs vantrel))"
 eval "libdir=$(pkg-config --variable=libdir vantrel)"
@@ -49,6 +51,7 @@ build_with_pkg_config() {
         "-Wl,-rpath,$libdir" && "$scratch/consumer"
 }
 
+step "Run the installed command" "$prefix/bin/vantrel" --version
 step "Compile each installed header alone" check_headers
 step "Find all installed headers in Vantrel.h" check_headers_are_gathered
 step "Look at the installed library" check_library

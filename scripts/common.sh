@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # Shared by the scripts beside it, which source it first: they stop at the first failure, run in the
 # checkout's root wherever they are called from, and print one line a step.
 

@@ -8,7 +8,8 @@
 namespace vantrel {
 template <class Node>
 class AttributeTable;
-}
+void MakeFixedChild(CProjectNode& parent, eNodeType type); // of project/NodeFactory.h
+} // namespace vantrel
 
 /// One playable title of the disc. Titles live in the project's "Titles" list.
 ///
@@ -60,7 +61,10 @@ public:
     Status ParseAttributeMap(const std::map<std::string, std::string>& attributes) override;
 
 private:
+    friend void vantrel::MakeFixedChild(CProjectNode& parent, eNodeType type);
+
     static vantrel::AttributeTable<CDSTitle> Attributes();
+    void MakeMissingChildren(bool assignIDs);
 
     unsigned long m_tag = 1;
     unsigned long m_flags = 0;
