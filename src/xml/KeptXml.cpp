@@ -14,12 +14,10 @@ namespace vantrel {
 
 namespace {
 
-constexpr const char* kDataTypes = "urn:schemas-microsoft-com:datatypes";
-
 bool IsDataTypes(const xmlNs* ns)
 {
     return ns->prefix && ns->href && std::string_view(Chars(ns->prefix)) == "dt" &&
-           std::string_view(Chars(ns->href)) == kDataTypes;
+           std::string_view(Chars(ns->href)) == kDataTypesUri;
 }
 
 /// Copies a subtree with plain names, and notes which prefixes it uses without declaring them.
@@ -70,7 +68,7 @@ private:
             string text;
             for (next = child; next && IsText(next); next = next->next)
                 AppendText(text, *next);
-            copy.reset(xmlNewDocText(m_target, XmlChars(text.c_str())));
+            copy = text.empty() ? nullptr : NewText(m_target, text.c_str());
         } else {
             copy = CopyLeaf(child);
         }
@@ -85,7 +83,7 @@ private:
             return nullptr;
         switch (node->type) {
         case XML_TEXT_NODE:
-            return XmlNodePtr{ xmlNewDocText(m_target, node->content) };
+            return NewText(m_target, node->content ? Chars(node->content) : "");
         case XML_CDATA_SECTION_NODE:
         case XML_COMMENT_NODE:
         case XML_PI_NODE:
@@ -93,7 +91,7 @@ private:
         case XML_ENTITY_REF_NODE: {
             string text;
             AppendText(text, *node);
-            return XmlNodePtr{ xmlNewDocText(m_target, XmlChars(text.c_str())) };
+            return text.empty() ? nullptr : NewText(m_target, text.c_str());
         }
         default:
             return nullptr;

@@ -5,33 +5,10 @@
 #include "xml/XmlPtr.h"
 #include "xml/XmlValue.h"
 
-#include <algorithm>
-#include <climits>
-
 using std::string;
 using std::string_view;
 
 namespace vantrel {
-
-namespace {
-
-/// A text node. Types and values repeat, so a dictionary holds the short ones, where there is one.
-xmlNode* NewText(xmlDoc* doc, string_view text)
-{
-    constexpr std::size_t longest = 24;
-    xmlNode* node = xmlNewDocText(doc, nullptr);
-    if (!node)
-        return nullptr;
-    const xmlChar* content = XmlChars(text.data());
-    const int size = static_cast<int>(std::min<std::size_t>(text.size(), INT_MAX));
-    if (doc && doc->dict && text.size() <= longest)
-        node->content = const_cast<xmlChar*>(xmlDictLookup(doc->dict, content, size));
-    else
-        node->content = xmlStrndup(content, size);
-    return node;
-}
-
-} // namespace
 
 xmlNode* AddElement(xmlNode* parent, const char* name)
 {
@@ -51,15 +28,12 @@ xmlNode* AddTypedElement(xmlNode* parent, const char* element, string_view name,
         (void)AddAttribute(added, "Name", string(name));
     if (!*type)
         return added;
-    if (xmlAttr* word = xmlNewProp(added, XmlChars("dt:dt"), nullptr)) {
-        word->children = word->last = NewText(added->doc, type);
-        if (word->children)
-            word->children->parent = reinterpret_cast<xmlNode*>(word);
-    }
+    (void)AddAttribute(added, "dt:dt", type); // fails for want of memory alone
     string mended;
-    added->children = added->last = NewText(added->doc, XmlText(text, mended));
-    if (added->children)
-        added->children->parent = added;
+    if (XmlNodePtr value = NewText(added->doc, XmlText(text, mended))) {
+        value->parent = added;
+        added->children = added->last = value.release(); // the first child needs no merging
+    }
     return added;
 }
 
@@ -93,12 +67,8 @@ string_view ElementText(const xmlNode* element)
 
 string_view AttributeText(const xmlNode* element, string_view name, string& store)
 {
-    const xmlAttr* attribute = IsElement(element) ? element->properties : nullptr;
-    for (; attribute; attribute = attribute->next) {
-        if (!attribute->ns && Chars(attribute->name) == name)
-            return ResolvedText(attribute->children, store);
-    }
-    return "";
+    const xmlAttr* attribute = FindAttribute(element, name);
+    return attribute ? ResolvedText(attribute->children, store) : "";
 }
 
 } // namespace vantrel
