@@ -10,12 +10,16 @@ namespace vantrel {
 
 namespace {
 
-constexpr std::string_view kSpace = " \t\n\v\f\r";
+constexpr bool IsSpace(char c)
+{
+    return c == ' ' || (c >= '\t' && c <= '\r');
+}
 
 /// Cuts white space and one sign off the front of `text`; true for a minus.
 bool TakeSign(std::string_view& text)
 {
-    text.remove_prefix(std::min(text.find_first_not_of(kSpace), text.size()));
+    while (!text.empty() && IsSpace(text.front()))
+        text.remove_prefix(1);
     const bool negative = !text.empty() && text.front() == '-';
     if (negative || (!text.empty() && text.front() == '+'))
         text.remove_prefix(1);
@@ -99,6 +103,8 @@ double ParseDouble(std::string_view text)
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
     if (error == std::errc::result_out_of_range || StartsWithHexPrefix(digits))
         return ReadRareDouble(text);
+    if (error == std::errc::invalid_argument)
+        return 0.0; // no number has no sign either
     return negative ? -value : value;
 }
 

@@ -2,6 +2,8 @@
 
 #include "core/Status.h"
 
+#include <utility>
+
 namespace vantrel {
 
 /// The body of a plain `get_`: copies `value` to `out`. Null gives `status::kNullPointer`.
@@ -11,6 +13,14 @@ Status Give(T* out, const V& value)
     if (!out)
         return status::kNullPointer;
     *out = value;
+    return status::kOk;
+}
+
+/// The body of a plain `put_`: stores `value` unchecked.
+template <class T>
+Status Take(T& field, T value)
+{
+    field = std::move(value);
     return status::kOk;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/Status.h"
+#include "xml/XmlPtr.h"
 
 #include <libxml/tree.h>
 
@@ -9,6 +10,9 @@
 
 /// Names, texts and children of XML nodes, for the code inside the library.
 namespace vantrel {
+
+/// What the prefix "dt" of typed elements stands for; the root of every project file declares it.
+inline constexpr const char* kDataTypesUri = "urn:schemas-microsoft-com:datatypes";
 
 inline const xmlChar* XmlChars(const char* text)
 {
@@ -69,10 +73,18 @@ private:
 /// The first child element of that name without a namespace, or null.
 xmlNode* FindChildElement(const xmlNode* parent, std::string_view name);
 
+/// The attribute of that name without a namespace, or null.
+const xmlAttr* FindAttribute(const xmlNode* element, std::string_view name);
+
 /// The text of a list of text and entity reference nodes, as it stands under an attribute, with the
 /// references resolved. The view is into the document, or into `store` when the text had to be put
 /// together. References that would unfold into more than a document may hold are left out.
 std::string_view ResolvedText(const xmlNode* list, std::string& store);
+
+/// A text node of `doc`, for a text that is fit for a file. A short one lies within its node, as it
+/// does when libxml2 parses compactly, which saves an allocation for most values. Null without
+/// memory.
+XmlNodePtr NewText(xmlDoc* doc, const char* text);
 
 /// Adds an attribute that `element` doesn't have yet, its value made fit for a file. An `element`
 /// that may have it already wants `xmlSetProp`. Gives `status::kNullPointer` when that fails.

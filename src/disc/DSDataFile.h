@@ -1,0 +1,51 @@
+#pragma once
+
+#include "core/Property.h"
+#include "project/ProjectNode.h"
+
+#include <string>
+
+namespace vantrel {
+template <class Node>
+class AttributeTable;
+}
+
+/// One file that goes onto the disc beside the video. Data files live in the project's "DataFiles"
+/// list. Paths are stored as they are. A `get_` gives `status::kNullPointer` for null, else 0.
+class VANTREL_API CDSDataFile : public CProjectNode
+{
+public:
+    CDSDataFile();
+    ~CDSDataFile() override;
+
+    Status get_ID(long* out) const { return vantrel::Give(out, GetID()); }
+
+    /// Where the file is found.
+    Status get_SourcePath(std::string* out) const { return vantrel::Give(out, m_sourcePath); }
+    Status put_SourcePath(std::string value)
+    {
+        return vantrel::Take(m_sourcePath, std::move(value));
+    }
+
+    /// Where it goes on the disc.
+    Status get_DestPath(std::string* out) const { return vantrel::Give(out, m_destPath); }
+    Status put_DestPath(std::string value) { return vantrel::Take(m_destPath, std::move(value)); }
+
+    /// The kind of file; the numbers are the application's.
+    Status get_Tag(unsigned long* out) const { return vantrel::Give(out, m_tag); }
+    Status put_Tag(unsigned long value) { return vantrel::Take(m_tag, value); }
+
+    /// Counts one more user of the file. The count is not in the file.
+    Status IncrementUseCount();
+
+    Status FillAttributeMap(std::map<std::string, std::string>& attributes, bool native) override;
+    Status ParseAttributeMap(const std::map<std::string, std::string>& attributes) override;
+
+private:
+    static vantrel::AttributeTable<CDSDataFile> Attributes();
+
+    std::string m_sourcePath;
+    std::string m_destPath;
+    unsigned long m_tag = 0;
+    long m_useCount = 0;
+};

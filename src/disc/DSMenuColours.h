@@ -1,0 +1,131 @@
+#pragma once
+
+#include "core/Types.h"
+#include "project/ProjectNode.h"
+
+#include <array>
+#include <string>
+
+namespace vantrel {
+template <class Node>
+class AttributeTable;
+}
+
+/// @file
+/// The nodes under a menu that hold what the disc's subpicture unit needs: the palette, the button
+/// schemes, the colours of the overlay layer, and the rectangle that buttons are laid out in.
+
+/// One colour of a palette.
+struct RGBEntry
+{
+    unsigned char red = 0;
+    unsigned char green = 0;
+    unsigned char blue = 0;
+};
+
+/// A colour assignment of a subpicture: for each of its four kinds of pixel (pattern, background,
+/// emphasis 1 and 2) the index of a palette entry and a contrast, each 0 to 15.
+struct SPUColourInfo
+{
+    unsigned char pattCol = 0;
+    unsigned char pattCnt = 0;
+    unsigned char bkgdCol = 0;
+    unsigned char bkgdCnt = 0;
+    unsigned char emp1Col = 0;
+    unsigned char emp1Cnt = 0;
+    unsigned char emp2Col = 0;
+    unsigned char emp2Cnt = 0;
+};
+
+/// The 16 colours of a menu.
+class VANTREL_API CPaletteNode : public CProjectNode
+{
+public:
+    CPaletteNode();
+    ~CPaletteNode() override;
+
+    /// Copies all 16 entries out or in; null gives `status::kNullPointer`.
+    Status GetPalette(RGBEntry* out) const;
+    Status SetPalette(const RGBEntry* in);
+
+    Status FillAttributeMap(std::map<std::string, std::string>& attributes, bool native) override;
+    /// Stops, with a message on standard output, at the first entry that is absent or empty.
+    Status ParseAttributeMap(const std::map<std::string, std::string>& attributes) override;
+
+private:
+    static vantrel::AttributeTable<CPaletteNode> Attributes();
+    template <std::size_t Index>
+    struct Entry;
+
+    std::array<RGBEntry, 16> m_palette;
+};
+
+/// What a button shows when it is selected and when it is activated. A menu has three schemes, told
+/// apart by their element names.
+class VANTREL_API CButtonSchemeNode : public CProjectNode
+{
+public:
+    explicit CButtonSchemeNode(std::string name);
+    ~CButtonSchemeNode() override;
+
+    /// Copies both assignments out, and only then derives the emphasis 2 values in the node from the
+    /// pattern's: half its contrast, rounded up, and its colour. So a second call, and the next save,
+    /// show the derived values. Null gives `status::kNullPointer`.
+    Status GetColourInfo(SPUColourInfo* selected, SPUColourInfo* activated);
+
+    /// Stores both when every value is at most 15; else the first bad one, the selected assignment
+    /// first, decides between `status::kBadColour` and `status::kBadContrast`, and nothing changes.
+    Status SetColourInfo(const SPUColourInfo& selected, const SPUColourInfo& activated);
+
+    std::string GetObjectTagName() override;
+    Status FillAttributeMap(std::map<std::string, std::string>& attributes, bool native) override;
+    Status ParseAttributeMap(const std::map<std::string, std::string>& attributes) override;
+
+private:
+    static vantrel::AttributeTable<CButtonSchemeNode> Attributes();
+
+    SPUColourInfo m_selected;
+    SPUColourInfo m_activated;
+    std::string m_name; ///< the element's name
+};
+
+/// The subpicture colours of a menu's overlay layer.
+class VANTREL_API CSPUColourNode : public CProjectNode
+{
+public:
+    CSPUColourNode();
+    ~CSPUColourNode() override;
+
+    /// Null gives `status::kNullPointer`.
+    Status GetColourInfo(SPUColourInfo* out) const;
+    /// Checks as a scheme does.
+    Status SetColourInfo(const SPUColourInfo& in);
+
+    Status FillAttributeMap(std::map<std::string, std::string>& attributes, bool native) override;
+    Status ParseAttributeMap(const std::map<std::string, std::string>& attributes) override;
+
+private:
+    static vantrel::AttributeTable<CSPUColourNode> Attributes();
+
+    SPUColourInfo m_colourInfo;
+};
+
+/// The rectangle into which a menu's buttons are laid out. Its sides are neither ordered nor checked.
+class VANTREL_API CLayoutRectNode : public CProjectNode
+{
+public:
+    CLayoutRectNode();
+    ~CLayoutRectNode() override;
+
+    /// Null gives `status::kNullPointer`.
+    Status GetLayoutRect(FloatRect* out) const;
+    Status SetLayoutRect(const FloatRect* in);
+
+    Status FillAttributeMap(std::map<std::string, std::string>& attributes, bool native) override;
+    Status ParseAttributeMap(const std::map<std::string, std::string>& attributes) override;
+
+private:
+    static vantrel::AttributeTable<CLayoutRectNode> Attributes();
+
+    FloatRect m_rect;
+};

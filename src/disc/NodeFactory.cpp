@@ -1,0 +1,30 @@
+#include "project/NodeFactory.h"
+
+#include "disc/DSCommandList.h"
+#include "disc/DSDataFile.h"
+#include "disc/DSTitle.h"
+
+namespace vantrel {
+
+std::unique_ptr<CProjectNode> MakeNode(eNodeType type)
+{
+    switch (type) {
+    case eNodeTitle:
+        return std::make_unique<CDSTitle>();
+    case eNodeFile:
+        return std::make_unique<CDSDataFile>();
+    case eNodeCommand:
+        return std::make_unique<CDiscCommandNode>();
+    default:
+        return nullptr;
+    }
+}
+
+void MakeFixedChild(CProjectNode& parent, eNodeType type)
+{
+    auto* title = dynamic_cast<CDSTitle*>(&parent);
+    if (title && (type == eNodeCommands || type == eNodeEncoding))
+        title->MakeMissingChildren(false);
+}
+
+} // namespace vantrel

@@ -1,0 +1,317 @@
+#pragma once
+
+#include "core/Number.h"
+#include "core/Status.h"
+#include "project/AttributeSlots.h"
+#include "project/FormatUtils.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <map>
+#include <string>
+#include <string_view>
+#include <type_traits>
+
+/// A node's file form is one table, a row an attribute, in reading order. Writer and reader run the
+/// same rows, so they can't drift apart. What is irregular stands in the row.
+namespace vantrel {
+
+template <class Node>
+struct AttributeRow
+{
+    using Writer = void (*)(const Node& node, std::string& text); ///< appends the text
+    using Reader = void (*)(Node& node, std::string_view text);
+    using Condition = bool (*)(const Node& node);
+    using Report = void (*)(std::size_t row);
+
+    const char* name;
+    Writer write; ///< null: never written
+    Reader read;  ///< null: never read
+    Condition condition = nullptr;
+    const char* absent = nullptr; ///< read in place of a missing attribute
+    Report missing = nullptr;     ///< ends the reading at a missing or empty attribute
+
+    constexpr AttributeRow ReadOnly() const
+    {
+        AttributeRow row = *this;
+        row.write = nullptr;
+        return row;
+    }
+    constexpr AttributeRow WriteOnly() const
+    {
+        AttributeRow row = *this;
+        row.read = nullptr;
+        return row;
+    }
+    /// Read only when the condition holds; written when it holds or the native form is asked for.
+    /// While reading, a condition sees what the rows above it have read.
+    constexpr AttributeRow If(Condition holds) const
+    {
+        AttributeRow row = *this;
+        row.condition = holds;
+        return row;
+    }
+    constexpr AttributeRow WhenAbsent(const char* text) const
+    {
+        AttributeRow row = *this;
+        row.absent = text;
+        return row;
+    }
+    /// A missing or empty attribute is reported, and neither it nor any row behind it is read.
+    constexpr AttributeRow Required(Report report) const
+    {
+        AttributeRow row = *this;
+        row.missing = report;
+        return row;
+    }
+};
+
+/// The rows of a table in reading order, and their order by name, which is the order in a file.
+template <class Node, std::size_t Count>
+struct AttributeRows
+{
+    static_assert(Count <= AttributeSlots::kMost);
+
+    std::array<AttributeRow<Node>, Count> rows;
+    std::array<AttributeName, Count> byName;
+};
+
+template <class Node, class... Row>
+consteval auto Rows(Row... row)
+{
+    AttributeRows<Node, sizeof...(Row)> table{ { row... }, {} };
+    for (std::size_t i = 0; i < sizeof...(Row); ++i)
+        table.byName[i] = { table.rows[i].name, static_cast<std::uint8_t>(i) };
+    std::sort(table.byName.begin(), table.byName.end(),
+              [](const auto& a, const auto& b) { return a.name < b.name; });
+    return table;
+}
+
+/// A view of a class's rows that runs them.
+template <class Node>
+class AttributeTable
+{
+public:
+    using Finish = void (*)(Node& node);
+
+    template <std::size_t Count>
+    constexpr AttributeTable(const AttributeRows<Node, Count>& table, Finish finish = nullptr)
+        : m_rows(table.rows.data()),
+          m_names(table.byName.data()),
+          m_count(Count),
+          m_finish(finish)
+    {}
+
+    /// Adds the attributes to a map.
+    void Write(const Node& node, bool native, std::map<std::string, std::string>& attributes) const
+    {
+        for (const AttributeName& name : Names()) {
+            const AttributeRow<Node>& row = m_rows[name.row];
+            if (!IsWritten(row, node, native))
+                continue;
+            std::string& text = attributes[row.name];
+            text.clear();
+            row.write(node, text);
+        }
+    }
+
+    /// Puts the attributes on an element that has none of them yet.
+    Status Write(const Node& node, bool native, xmlNode* element) const
+    {
+        std::string text;
+        for (const AttributeName& name : Names()) {
+            const AttributeRow<Node>& row = m_rows[name.row];
+            if (!IsWritten(row, node, native))
+                continue;
+            text.clear();
+            row.write(node, text);
+            const Status added = AddReportedAttribute(element, row.name, text);
+            if (Failed(added))
+                return added;
+        }
+        return status::kOk;
+    }
+
+    /// Takes over what `source`, a map or an element, has of the attributes.
+    template <class Source>
+    void Read(Node& node, const Source& source) const
+    {
+        AttributeSlots slots;
+        slots.Fill(Names(), source);
+        for (std::size_t i = 0; i < m_count; ++i) {
+            const AttributeRow<Node>& row = m_rows[i];
+            if (!row.read || (row.condition && !row.condition(node)))
+                continue;
+            const char* absent = row.absent;
+            if (row.missing && (!slots.Has(i) || slots.Text(i).empty())) {
+                row.missing(i);
+                break;
+            }
+            if (slots.Has(i))
+                row.read(node, slots.Text(i));
+            else if (absent)
+                row.read(node, absent);
+        }
+        if (m_finish)
+            m_finish(node);
+    }
+
+private:
+    std::span<const AttributeName> Names() const { return { m_names, m_count }; }
+
+    static bool IsWritten(const AttributeRow<Node>& row, const Node& node, bool native)
+    {
+        return row.write && (native || !row.condition || row.condition(node));
+    }
+
+    const AttributeRow<Node>* m_rows;
+    const AttributeName* m_names;
+    std::size_t m_count;
+    Finish m_finish; ///< runs when all rows have been read; may be null
+};
+
+/// Makers of rows, one a form of value. `Field` is a pointer to a member of the node.
+namespace attribute {
+
+template <class>
+struct FieldOf;
+template <class C, class T>
+struct FieldOf<T C::*>
+{
+    using Class = C;
+    using Type = T;
+};
+template <auto Field>
+using NodeOf = typename FieldOf<decltype(Field)>::Class;
+template <auto Field>
+using TypeOf = typename FieldOf<decltype(Field)>::Type;
+
+/// The decimal number in the width that its text is read and written with.
+template <class T>
+T FromDecimal(std::string_view text)
+{
+    if constexpr (std::is_same_v<T, unsigned long>)
+        return ParseULong(text);
+    else
+        return static_cast<T>(ParseLong(text)); // cut to the field's width
+}
+
+template <class T>
+void AppendDecimal(std::string& text, T value)
+{
+    if constexpr (std::is_same_v<T, unsigned long>)
+        AppendNumber(text, value);
+    else
+        AppendNumber(text, static_cast<long>(value));
+}
+
+/// "ID": reading it raises the counter of IDs.
+template <class Node>
+constexpr AttributeRow<Node> NodeID(const char* name)
+{
+    return { name, [](const Node& node, std::string& text) { AppendNumber(text, node.GetID()); },
+             [](Node& node, std::string_view text) { node.SetID(ParseLong(text)); } };
+}
+
+/// A value that is always the same and never read.
+template <class Node, unsigned long Value>
+constexpr AttributeRow<Node> Constant(const char* name)
+{
+    return { name, [](const Node&, std::string& text) { AppendNumber(text, Value); }, nullptr };
+}
+
+/// Decimal text of an integer.
+template <auto Field>
+constexpr AttributeRow<NodeOf<Field>> Decimal(const char* name)
+{
+    using Node = NodeOf<Field>;
+    return { name, [](const Node& node, std::string& text) { AppendDecimal(text, node.*Field); },
+             [](Node& node, std::string_view text) {
+                 node.*Field = FromDecimal<TypeOf<Field>>(text);
+             } };
+}
+
+/// Decimal text of an integer inside a structure of the node.
+template <auto Field, auto Member>
+constexpr AttributeRow<NodeOf<Field>> DecimalIn(const char* name)
+{
+    using Node = NodeOf<Field>;
+    return { name,
+             [](const Node& node, std::string& text) { AppendDecimal(text, node.*Field.*Member); },
+             [](Node& node, std::string_view text) {
+                 node.*Field.*Member = FromDecimal<TypeOf<Member>>(text);
+             } };
+}
+
+/// Floating-point text with six significant digits.
+template <auto Field>
+constexpr AttributeRow<NodeOf<Field>> Real(const char* name)
+{
+    using Node = NodeOf<Field>;
+    return { name,
+             [](const Node& node, std::string& text) {
+                 AppendNumber(text, static_cast<double>(node.*Field));
+             },
+             [](Node& node, std::string_view text) {
+                 node.*Field = static_cast<TypeOf<Field>>(ParseDouble(text));
+             } };
+}
+
+/// The same inside a structure of the node.
+template <auto Field, auto Member>
+constexpr AttributeRow<NodeOf<Field>> RealIn(const char* name)
+{
+    using Node = NodeOf<Field>;
+    return { name,
+             [](const Node& node, std::string& text) {
+                 AppendNumber(text, static_cast<double>(node.*Field.*Member));
+             },
+             [](Node& node, std::string_view text) {
+                 node.*Field.*Member = static_cast<TypeOf<Member>>(ParseDouble(text));
+             } };
+}
+
+/// "1" or "0"; any text but "0" is true.
+template <auto Field>
+constexpr AttributeRow<NodeOf<Field>> Bool(const char* name)
+{
+    using Node = NodeOf<Field>;
+    return { name, [](const Node& node, std::string& text) { text += node.*Field ? '1' : '0'; },
+             [](Node& node, std::string_view text) { node.*Field = text != "0"; } };
+}
+
+/// The string itself.
+template <auto Field>
+constexpr AttributeRow<NodeOf<Field>> Text(const char* name)
+{
+    using Node = NodeOf<Field>;
+    return { name, [](const Node& node, std::string& text) { text += node.*Field; },
+             [](Node& node, std::string_view text) { node.*Field = text; } };
+}
+
+/// A number with its name in parentheses; the number alone is read.
+template <auto Field>
+constexpr AttributeRow<NodeOf<Field>> Enum(const char* name)
+{
+    using Node = NodeOf<Field>;
+    return { name, [](const Node& node, std::string& text) { text += FormatEnum(node.*Field); },
+             [](Node& node, std::string_view text) {
+                 node.*Field = static_cast<TypeOf<Field>>(ParseLong(text));
+             } };
+}
+
+/// A bit set with the names of its bits in parentheses; the number alone is read.
+template <auto Field, std::string (*Format)(unsigned long)>
+constexpr AttributeRow<NodeOf<Field>> Flags(const char* name)
+{
+    using Node = NodeOf<Field>;
+    return { name, [](const Node& node, std::string& text) { text += Format(node.*Field); },
+             [](Node& node, std::string_view text) {
+                 node.*Field = static_cast<TypeOf<Field>>(ParseLong(text));
+             } };
+}
+
+} // namespace attribute
+
+} // namespace vantrel

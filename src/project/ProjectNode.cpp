@@ -1,0 +1,230 @@
+#include "project/ProjectNode.h"
+
+#include "core/Property.h"
+#include "project/AttributeSlots.h"
+#include "project/NodeForm.h"
+#include "xml/XmlValue.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <utility>
+
+using std::map;
+using std::string;
+using namespace vantrel;
+
+unsigned long CProjectNode::sm_dwNextID = 1;
+
+CProjectNode::CProjectNode(eNodeType type) : m_type(type)
+{}
+
+CProjectNode::CProjectNode(eNodeType type, const NodeForm& form) : m_type(type), m_form(&form)
+{}
+
+CProjectNode::~CProjectNode()
+{
+    if (m_holder)
+        m_holder->Detach(this);
+    for (CProjectNode* child : m_children) {
+        child->m_holder = nullptr; // the list is going: a child need not leave it
+        child->m_parent = nullptr;
+        if (child->m_owned)
+            delete child;
+    }
+}
+
+Status CProjectNode::Read(IXMLDOMNode* node)
+{
+    return node ? ReadXML(node) : status::kNotAvailable;
+}
+
+Status CProjectNode::Write(IXMLDOMNode* node, long native)
+{
+    return node ? WriteXML(node, native) : status::kNotAvailable;
+}
+
+void CProjectNode::SetDirtyFlag()
+{
+    if (m_parent)
+        m_parent->SetDirtyFlag();
+}
+
+string CProjectNode::GetObjectTagName()
+{
+    return {};
+}
+
+int CProjectNode::NodeInserted()
+{
+    return 0;
+}
+
+int CProjectNode::RemovingNode()
+{
+    return 0;
+}
+
+Status CProjectNode::ReadXML(IXMLDOMNode* node)
+{
+    if (!node)
+        return status::kNothingDone;
+    KeepDocumentPath(node->doc);
+    if (!IsElement(node) || !node->properties)
+        return status::kNothingDone;
+    if (m_form && m_form->isExactly(*this))
+        return m_form->read(*this, node);
+    return ReadAttributesByMap(node);
+}
+
+Status CProjectNode::ReadAttributesByMap(const _xmlNode* element)
+{
+    map<string, string> attributes;
+    string store;
+    for (const xmlAttr* attribute = element->properties; attribute; attribute = attribute->next) {
+        string value{ ResolvedText(attribute->children, store) };
+        const char* name = Chars(attribute->name);
+        if (attribute->ns)
+            attributes.try_emplace(name, std::move(value)); // never hides one without a prefix
+        else
+            attributes.insert_or_assign(name, std::move(value));
+    }
+    return ParseAttributeMap(attributes);
+}
+
+Status CProjectNode::WriteXML(IXMLDOMNode* node, long native)
+{
+    if (IsElement(node) && !node->properties && m_form && m_form->isExactly(*this))
+        return m_form->write(*this, node, native != 0);
+
+    map<string, string> attributes;
+    const Status filled = FillAttributeMap(attributes, native != 0);
+    return Failed(filled) ? filled : WriteNodeAttributes(node, attributes);
+}
+
+Status CProjectNode::WriteNodeAttributes(IXMLDOMNode* node, const map<string, string>& attributes)
+{
+    if (!node)
+        return status::kBadArgument;
+    for (const auto& [name, value] : attributes) {
+        if (xmlValidateName(XmlChars(name.c_str()), 0) != 0) {
+            std::printf("Failed on attribute: %s\n", name.c_str());
+            return status::kNullPointer;
+        }
+        (void)xmlUnsetProp(node, XmlChars(name.c_str())); // the same name twice would be no XML
+        const Status added = AddReportedAttribute(node, name.c_str(), value);
+        if (Failed(added))
+            return added;
+    }
+    return status::kOk;
+}
+
+bool CProjectNode::AddChild(CProjectNode* child, bool assignID)
+{
+    return child && Append(child, assignID);
+}
+
+CProjectNode* CProjectNode::AdoptChild(std::unique_ptr<CProjectNode> child, bool assignID)
+{
+    if (!child || !Append(child.get(), assignID))
+        return nullptr;
+    child->m_owned = true;
+    return child.release();
+}
+
+bool CProjectNode::Append(CProjectNode* child, bool assignID)
+{
+    if (HangsBelow(child))
+        return false; // the tree would have no root any more
+    if (child->m_holder)
+        child->m_holder->Detach(child);
+    m_children.push_back(child);
+    child->m_parent = this;
+    child->m_holder = this;
+    if (assignID && child->m_id == 0)
+        child->SetID(GetNewID());
+    return true;
+}
+
+void CProjectNode::Detach(CProjectNode* child)
+{
+    m_children.erase(std::find(m_children.begin(), m_children.end(), child));
+    child->m_holder = nullptr;
+    child->m_parent = nullptr;
+}
+
+bool CProjectNode::HangsBelow(const CProjectNode* node) const
+{
+    for (const CProjectNode* above = this; above; above = above->m_holder) {
+        if (above == node)
+            return true;
+    }
+    return false;
+}
+
+CProjectNode* CProjectNode::GetChild(int index)
+{
+    return index >= 0 && index < GetNumChildren() ? m_children[static_cast<std::size_t>(index)]
+                                                  : nullptr;
+}
+
+CProjectNode* CProjectNode::FindChildByType(eNodeType type, string name)
+{
+    for (CProjectNode* child : m_children) {
+        if (child->m_type != type)
+            continue;
+        const string tag = name.empty() ? string() : child->GetObjectTagName();
+        if (tag.empty() || tag == name)
+            return child;
+    }
+    return nullptr;
+}
+
+CProjectNode* CProjectNode::FindChildByID(unsigned long id, int* index)
+{
+    const auto found = std::find_if(m_children.begin(), m_children.end(), [id](auto* child) {
+        return static_cast<unsigned long>(child->m_id) == id;
+    });
+    if (found == m_children.end())
+        return nullptr;
+    if (index)
+        *index = static_cast<int>(found - m_children.begin());
+    return *found;
+}
+
+void CProjectNode::SetID(long id)
+{
+    m_id = id;
+    const auto next = static_cast<unsigned long>(id) + 1;
+    if (next > sm_dwNextID) // an ID without a successor gives 0 here
+        sm_dwNextID = next;
+}
+
+long CProjectNode::GetNewID()
+{
+    const unsigned long id = sm_dwNextID++;
+    if (sm_dwNextID == 0)
+        sm_dwNextID = 1; // 0 means no ID
+    return static_cast<long>(id);
+}
+
+void CProjectNode::SetName(string name)
+{
+    m_name = std::move(name);
+}
+
+const string& CProjectNode::DocumentPath() const
+{
+    static const string none;
+    return m_documentPath ? *m_documentPath : none;
+}
+
+void CProjectNode::KeepDocumentPath(const _xmlDoc* doc)
+{
+    if (!doc || !doc->URL)
+        return;
+    const char* path = Chars(doc->URL);
+    if (m_parent && m_parent->DocumentPath() == path)
+        m_documentPath = m_parent->m_documentPath; // a project has many nodes and one path
+    else
+        m_documentPath = std::make_shared<const string>(path);
+}

@@ -1,0 +1,147 @@
+#pragma once
+
+#include "core/Export.h"
+#include "core/Status.h"
+#include "project/NodeType.h"
+#include "xml/DsXml.h"
+
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace vantrel {
+struct NodeForm;
+}
+
+/// The base of every object of a disc project: a place in one tree (a parent, an ordered list of
+/// children), an ID that stays unique over save and load, and the way between the node's state and
+/// the attributes of one XML element.
+///
+/// A node knows its own element's attributes only; `CXMLPersistor` and `CDSXMLDataLoader` walk the
+/// tree. Nodes are for one thread at a time and can't be copied.
+///
+/// Ownership: a child added with `AdoptChild` is released with its parent: so are the fixed children
+/// that a class makes and all that a load brings. A child added with `AddChild` stays the caller's
+/// and may stand on the stack. A node that dies leaves its parent's list; a parent that dies sets
+/// the parent of the children that it does not own to null.
+class VANTREL_API CProjectNode
+{
+public:
+    explicit CProjectNode(eNodeType type);
+    CProjectNode(const CProjectNode&) = delete;
+    CProjectNode& operator=(const CProjectNode&) = delete;
+    virtual ~CProjectNode();
+
+    /// Takes over the attributes of an element. Null gives `status::kNotAvailable`, an element
+    /// without attributes 1 and no change.
+    virtual Status Read(IXMLDOMNode* node);
+
+    /// Puts this node's attributes on an element. `native` other than 0 asks menus and buttons for
+    /// their native form. Null gives `status::kNotAvailable`.
+    virtual Status Write(IXMLDOMNode* node, long native);
+
+    /// Tells the parents, up to the root, that something changed. No flag is stored.
+    virtual void SetDirtyFlag();
+
+    /// The element name that this node asks for; empty leaves it to the persist table.
+    virtual std::string GetObjectTagName();
+
+    /// Hooks for an application; the library doesn't call them.
+    virtual int NodeInserted();
+    virtual int RemovingNode();
+
+    /// Adds this node's attributes, name to text, to the map. The order of the map is the order of
+    /// the attributes in a file.
+    virtual Status FillAttributeMap(std::map<std::string, std::string>& attributes,
+                                    bool native) = 0;
+
+    /// Takes over the attributes that the map has and leaves everything else as it is.
+    virtual Status ParseAttributeMap(const std::map<std::string, std::string>& attributes) = 0;
+
+    /// The body of `Read`: keeps the document's path, then parses the attributes by local name; one
+    /// with a prefix never hides one without.
+    virtual Status ReadXML(IXMLDOMNode* node);
+
+    /// The body of `Write`.
+    virtual Status WriteXML(IXMLDOMNode* node, long native);
+
+    /// Sets one attribute for each entry, in the map's order, with values made fit for a file. A
+    /// name that XML can't have is reported on standard output and gives `status::kNullPointer`.
+    Status WriteNodeAttributes(IXMLDOMNode* node,
+                               const std::map<std::string, std::string>& attributes);
+
+    /// @name Tree
+    /// @{
+
+    /// Appends `child`, which stays the caller's, and takes it out of the list that it stood in.
+    /// With `assignID` a child without an ID gets a new one. False, and nothing done, for null and
+    /// for a node that this one hangs below.
+    bool AddChild(CProjectNode* child, bool assignID);
+
+    /// Appends `child` and owns it from now on. Hands out the child, or null when it is refused.
+    CProjectNode* AdoptChild(std::unique_ptr<CProjectNode> child, bool assignID);
+
+    /// The child at `index`, counted from 0, or null.
+    CProjectNode* GetChild(int index);
+    int GetNumChildren() const { return static_cast<int>(m_children.size()); }
+
+    CProjectNode* GetParent() const { return m_parent; }
+    /// Stores the parent alone; the list of children is `AddChild`'s affair.
+    void SetParent(CProjectNode* parent) { m_parent = parent; }
+
+    /// The first direct child of that type whose element name isn't another than `name`; an empty
+    /// name, on either side, is no other. Null when there is none.
+    CProjectNode* FindChildByType(eNodeType type, std::string name);
+
+    /// The first direct child of that ID, its position in `index` when that is not null.
+    CProjectNode* FindChildByID(unsigned long id, int* index);
+    /// @}
+
+    /// @name Identity
+    /// @{
+    eNodeType GetType() const { return m_type; }
+
+    /// 0 means none yet.
+    long GetID() const { return m_id; }
+
+    /// Stores the ID and raises the counter above it. An ID that has no successor leaves the counter
+    /// alone. Duplicates are not looked for.
+    void SetID(long id);
+
+    /// Hands out the next ID.
+    static long GetNewID();
+
+    /// A free name for the application's use.
+    void SetName(std::string name);
+    /// @}
+
+    /// The ID that is handed out next, in the whole process. Starts at 1 and is never reset.
+    static unsigned long sm_dwNextID;
+
+protected:
+    /// For a class whose attributes all stand in one table: `form` lets the base move them between
+    /// object and element without a map in between. A further derived class goes through the map
+    /// again, so that its overrides count.
+    CProjectNode(eNodeType type, const vantrel::NodeForm& form);
+
+    /// The path of the document that the node was last read from, as the caller gave it.
+    const std::string& DocumentPath() const;
+
+private:
+    bool Append(CProjectNode* child, bool assignID);
+    void Detach(CProjectNode* child);
+    bool HangsBelow(const CProjectNode* node) const;
+    void KeepDocumentPath(const _xmlDoc* doc);
+    Status ReadAttributesByMap(const _xmlNode* element);
+
+    std::shared_ptr<const std::string> m_documentPath; ///< shared with the parent where equal
+    long m_id = 0;
+    eNodeType m_type;
+    bool m_owned = false; ///< released by `m_holder`
+    std::string m_name;
+    std::vector<CProjectNode*> m_children; ///< owned where the child says so
+    CProjectNode* m_parent = nullptr;      ///< not owned
+    CProjectNode* m_holder = nullptr;      ///< whose list this node stands in; not owned
+    const vantrel::NodeForm* m_form = nullptr;
+};

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "core/Export.h"
+#include "project/NodeType.h"
+
+#include <string>
+#include <string_view>
+
+/// What an element name of the node tree stands for.
+struct XMLPersistEntry
+{
+    std::string strElement; ///< matched exactly, with case
+    eNodeType nodeType;     ///< the node that stands for the element
+    bool bCreate;           ///< reading makes a new node; else it fills the parent's own child
+    bool bLeaf;             ///< what lies inside is the node's own business
+};
+
+inline constexpr int numEntries = 30;
+
+/// Every element of the node tree. The first row of a type names the type's elements when they are
+/// written.
+VANTREL_API extern const XMLPersistEntry xmlPersistTable[numEntries];
+
+/// The first row of that type, or null.
+VANTREL_API const XMLPersistEntry* FindEntry(eNodeType type);
+
+/// The row of that name, or null.
+VANTREL_API const XMLPersistEntry* FindEntry(std::string element);
+
+namespace vantrel {
+
+/// `FindEntry` by name without a copy of it.
+const XMLPersistEntry* FindElement(std::string_view element);
+
+} // namespace vantrel

@@ -1,0 +1,82 @@
+#include "project/XMLProjectLoader.h"
+
+#include "project/NodeFactory.h"
+#include "project/ProjectNode.h"
+#include "project/XMLPersistTable.h"
+#include "xml/XmlValue.h"
+
+#include <memory>
+#include <string_view>
+#include <utility>
+
+using std::string;
+using std::string_view;
+using namespace vantrel;
+
+namespace {
+
+/// The child that the parent has for a fixed element; a title makes its own at the first need.
+CProjectNode* FixedChild(const XMLPersistEntry& row, CProjectNode& parent)
+{
+    CProjectNode* child = parent.FindChildByType(row.nodeType, row.strElement);
+    if (child)
+        return child;
+    MakeFixedChild(parent, row.nodeType);
+    return parent.FindChildByType(row.nodeType, row.strElement);
+}
+
+CProjectNode* NodeOf(const XMLPersistEntry& row, CProjectNode* root, CProjectNode* parent)
+{
+    if (row.nodeType == root->GetType())
+        return root;
+    if (!row.bCreate)
+        return parent ? FixedChild(row, *parent) : nullptr;
+    std::unique_ptr<CProjectNode> node = MakeNode(row.nodeType);
+    // The link comes before the reading, so that a node can ask its parents while it is read.
+    return parent ? parent->AdoptChild(std::move(node), false) : node.release();
+}
+
+} // namespace
+
+CDSXMLDataLoader::CDSXMLDataLoader(CProjectNode* root) : m_pRoot(root)
+{}
+
+Status CDSXMLDataLoader::LoadProject(IXMLDOMNode* element)
+{
+    (void)Walk(element, nullptr, "Productions"); // a bad element spoils no more than itself
+    return status::kOk;
+}
+
+Status CDSXMLDataLoader::Traverse(IXMLDOMNode* element, CProjectNode* parent)
+{
+    return Walk(element, parent, "");
+}
+
+Status CDSXMLDataLoader::Walk(IXMLDOMNode* element, CProjectNode* parent, const char* passedOver)
+{
+    if (!element)
+        return status::kNothingDone;
+    if (!IsElement(element))
+        return status::kOk;
+
+    const XMLPersistEntry* row = FindElement(NameOf(element));
+    CProjectNode* node = row ? NodeOf(*row, m_pRoot, parent) : nullptr;
+    // What no parent took is read all the same, and gone when its element has been walked.
+    const bool taken = parent || node == m_pRoot || !row || !row->bCreate;
+    const std::unique_ptr<CProjectNode> unreachable(taken ? nullptr : node);
+    if (node && Failed(node->Read(element)))
+        return status::kNothingDone;
+    if (row && row->bLeaf)
+        return status::kOk;
+    for (xmlNode* child : ChildElements(element)) {
+        if (NameOf(child) != string_view(passedOver))
+            (void)Walk(AsNode(child), node, "");
+    }
+    return status::kOk;
+}
+
+CProjectNode* CDSXMLDataLoader::GetProjectNode(string element, CProjectNode* parent)
+{
+    const XMLPersistEntry* row = FindElement(element);
+    return row ? NodeOf(*row, m_pRoot, parent) : nullptr;
+}
