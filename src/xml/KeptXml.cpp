@@ -62,7 +62,7 @@ private:
             xmlNode alone = *node;
             alone.next = nullptr;
             const string text{ ResolvedText(&alone, m_store) };
-            return XmlNodePtr{ xmlNewText(XmlChars(text.c_str())) };
+            return XmlNodePtr{ text.empty() ? nullptr : xmlNewText(XmlChars(text.c_str())) };
         }
         default:
             return nullptr;
