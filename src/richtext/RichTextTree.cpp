@@ -22,9 +22,9 @@ bool IsBlank(const xmlNode* text)
 
 bool IsFormatElement(const xmlNode* node)
 {
-    const string_view name = NameOf(node);
-    return IsElement(node) && (name == WS_NODE_NAME_PARA || name == WS_NODE_NAME_FONT ||
-                               name == WS_NODE_NAME_BOLD || name == WS_NODE_NAME_ITAL);
+    const string_view tag = TagOf(node);
+    return tag == WS_NODE_NAME_PARA || tag == WS_NODE_NAME_FONT || tag == WS_NODE_NAME_BOLD ||
+           tag == WS_NODE_NAME_ITAL;
 }
 
 /// Hangs the chain `first` to `last` under `parent`, between two neighbours that may be null.

@@ -15,6 +15,13 @@ namespace vantrel {
 /// The longest text node that libxml2 reads back from a file.
 inline constexpr std::size_t kLongestText = 10'000'000;
 
+/// The name of a rich text element; empty for anything else. A name with a prefix is another language's,
+/// also where a kept copy has made the prefix part of the name.
+inline std::string_view TagOf(const xmlNode* node)
+{
+    return IsElement(node) && !(node->ns && node->ns->prefix) ? NameOf(node) : std::string_view();
+}
+
 inline bool IsTextNode(const xmlNode* node)
 {
     return node && node->type == XML_TEXT_NODE;

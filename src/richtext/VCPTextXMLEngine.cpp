@@ -68,10 +68,9 @@ bool HasWords(const xmlNode* body, string_view words)
 /// True for what a new text takes the place of: words, also those that readers can't see, and lines.
 bool BelongsToText(const xmlNode* node)
 {
-    const string_view name = NameOf(node);
     return IsRun(node) || node->type == XML_CDATA_SECTION_NODE ||
-           node->type == XML_ENTITY_REF_NODE ||
-           (IsElement(node) && (name == WS_NODE_NAME_BREAK || name == WS_NODE_NAME_HR));
+           node->type == XML_ENTITY_REF_NODE || TagOf(node) == WS_NODE_NAME_BREAK ||
+           TagOf(node) == WS_NODE_NAME_HR;
 }
 
 bool HoldsText(const xmlNode* node)
@@ -259,7 +258,7 @@ bool CVCPTextXMLEditor::TestOnlyChildNodeOfOpType(_xmlNode*& node, long* found)
     xmlNode* first = nullptr;
     int others = 0;
     for (xmlNode* child : ChildElements(node)) {
-        if (NameOf(child) == m_tagName && !first)
+        if (TagOf(child) == m_tagName && !first)
             first = child;
         else
             ++others;
