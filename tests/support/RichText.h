@@ -31,13 +31,3 @@ inline std::string Summary(const _xmlNode* body)
     EXPECT_EQ(vantrel::SummariseRuns(body, &attributes), status::kOk);
     return Summary(attributes);
 }
-
-/// The document of `node` as a save writes it, indented.
-inline std::string SavedForm(_xmlNode* node)
-{
-    xmlChar* bytes = nullptr;
-    int size = 0;
-    xmlDocDumpFormatMemory(node->doc, &bytes, &size, 1);
-    const vantrel::XmlTextPtr held{ bytes };
-    return std::string(vantrel::Chars(bytes), static_cast<std::size_t>(size));
-}
