@@ -1,4 +1,5 @@
-// Times what a menu text costs: reading its runs, questions, edits, and references to a string table.
+// Times what a menu text costs: reading its runs, questions, edits, and references to a string
+// table.
 
 #include "project/DSList.h"
 #include "project/ResourceLoader.h"

@@ -44,7 +44,8 @@ void Link(xmlNode* parent, xmlNode* before, xmlNode* first, xmlNode* last, xmlNo
         node->parent = parent;
 }
 
-/// Appends the texts behind `text` to it that are of its kind, as long as a file gives the sum back.
+/// Appends the texts behind `text` to it that are of its kind, as long as a file gives the sum
+/// back.
 void JoinFollowing(xmlNode* text)
 {
     const auto fits = [&](const string& words, const xmlNode* next) {

@@ -53,11 +53,11 @@ TEST(TextAttributes, ReconcileFillsWhatTheTextLeavesOpen)
     constexpr const char* mixed = "undetermined";
     // clang-format off
     const Case cases[] = {
-        { { "", "", "", "" }, { 24, 0xFFFFFF, true, "Arial", TEXT_JUSTIFY_LEFT } },
-        { { mixed, mixed, mixed, mixed }, { 0, 0, false, mixed, TEXT_JUSTIFY_MIXED } },
-        { { " 36pt", "#010203", "M", "right" }, { 36, 0x030201, true, "M", TEXT_JUSTIFY_RIGHT } },
-        { { "stringRef:S.1", "Lime", "F", "center" }, { -1, 0x00FF00, true, "F", TEXT_JUSTIFY_CENTER } },
-        { { "99999999999", "x", "F", "centre" }, { 2147483647, 0, true, "F", TEXT_JUSTIFY_UNKNOWN } },
+        { { "", "", "", "" }, { 24, 0xFFFFFF, true, "Arial", 1 } },
+        { { mixed, mixed, mixed, mixed }, { 0, 0, false, mixed, 0 } },
+        { { " 36pt", "#010203", "M", "right" }, { 36, 0x030201, true, "M", 4 } },
+        { { "stringRef:S.1", "Lime", "F", "center" }, { -1, 0x00FF00, true, "F", 2 } },
+        { { "99999999999", "x", "F", "centre" }, { 2147483647, 0, true, "F", ~0UL } },
     };
     // clang-format on
     for (const auto& [words, numbers] : cases) {

@@ -5,7 +5,8 @@
 
 #include <string>
 
-/// The words of a summary and all that it says of them, on one line: "'words' style 101 face Arial".
+/// The words of a summary and all that it says of them, on one line: "'words' style 101 face
+/// Arial".
 inline std::string Summary(const TextAttributes& text)
 {
     constexpr const char* digits = "0123456789abcdef";
