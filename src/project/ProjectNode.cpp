@@ -17,12 +17,6 @@ using namespace vantrel;
 
 unsigned long CProjectNode::sm_dwNextID = 1;
 
-namespace {
-
-constexpr std::size_t kUsualChildren = 16; // a menu has nine fixed ones, a list often some more
-
-} // namespace
-
 CProjectNode::CProjectNode(eNodeType type) : m_type(type)
 {}
 
@@ -165,8 +159,6 @@ bool CProjectNode::Append(CProjectNode* child, bool assignID)
         return false; // the tree would have no root any more
     if (child->m_holder)
         child->m_holder->Detach(child);
-    if (m_children.empty())
-        m_children.reserve(kUsualChildren);
     m_children.push_back(child);
     child->m_parent = this;
     child->m_holder = this;
