@@ -99,6 +99,8 @@ double ParseDouble(std::string_view text)
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
     if (error == std::errc::result_out_of_range || StartsWithHexPrefix(digits))
         return ReadRareDouble(text);
+    if (error == std::errc::invalid_argument)
+        return 0.0; // no number has no sign either
     return negative ? -value : value;
 }
 

@@ -90,7 +90,8 @@ private:
         case XML_ENTITY_REF_NODE: {
             string text;
             AppendText(text, *node);
-            return XmlNodePtr{ xmlNewDocText(m_target, XmlChars(text.c_str())) };
+            return XmlNodePtr{ text.empty() ? nullptr
+                                            : xmlNewDocText(m_target, XmlChars(text.c_str())) };
         }
         default:
             return nullptr;

@@ -46,6 +46,19 @@ private:
     vantrel::XmlDocPtr m_doc;
 };
 
+/// Keeps libxml2's own error messages off the test's output.
+class SilentXml
+{
+public:
+    SilentXml() { xmlSetGenericErrorFunc(nullptr, Ignore); }
+    SilentXml(const SilentXml&) = delete;
+    SilentXml& operator=(const SilentXml&) = delete;
+    ~SilentXml() { xmlSetGenericErrorFunc(nullptr, nullptr); }
+
+private:
+    static void Ignore(void*, const char*, ...) {}
+};
+
 /// An element with all below it as text on one line, as it stands in a UTF-8 file.
 inline std::string TextOf(_xmlNode* node)
 {
