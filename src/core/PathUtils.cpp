@@ -40,4 +40,9 @@ bool GetContentPath(string* path)
     return false;
 }
 
+bool HasString(string text, string part)
+{
+    return !part.empty() && text.find(part) != string::npos;
+}
+
 } // namespace Utils

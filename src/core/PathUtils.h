@@ -20,4 +20,7 @@ VANTREL_API bool GetDirectoryAndFileName(std::string path, std::string* director
 /// without that stays whole. Always gives false.
 VANTREL_API bool GetContentPath(std::string* path);
 
+/// True when `part` occurs in `text`; false when either is empty.
+VANTREL_API bool HasString(std::string text, std::string part);
+
 } // namespace Utils

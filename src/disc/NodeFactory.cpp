@@ -3,6 +3,8 @@
 #include "disc/DSCommandList.h"
 #include "disc/DSDataFile.h"
 #include "disc/DSEncodingParams.h"
+#include "disc/DSMenu.h"
+#include "disc/DSMenuButton.h"
 #include "disc/DSTitle.h"
 
 namespace vantrel {
@@ -12,6 +14,10 @@ std::unique_ptr<CProjectNode> MakeNode(eNodeType type)
     switch (type) {
     case eNodeTitle:
         return std::make_unique<CDSTitle>();
+    case eNodeMenu:
+        return std::make_unique<CDSMenu>();
+    case eNodeButton:
+        return std::make_unique<CDSMenuButton>();
     case eNodeFile:
         return std::make_unique<CDSDataFile>();
     case eNodeCommand:

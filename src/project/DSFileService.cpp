@@ -67,6 +67,7 @@ Status CDSFileService::Save(string path, CDSProjectData* project, FileWriter wri
     string directory;
     (void)Utils::GetDirectoryAndFileName(path, &directory, nullptr, nullptr);
     (void)project->put_ProjectDirectory(directory);
+    (void)RemoveUnusedTemplates(project); // what stays is saved
     return WriteFile(path, project, write);
 }
 
@@ -104,6 +105,7 @@ Status CDSFileService::WriteProjectXML(IXMLDOMNode* root, CDSProjectData* projec
     xmlNode* productions = xmlNewDocNode(root->doc, nullptr, XmlChars("Productions"), nullptr);
     if (!productions || !xmlAddChild(root, productions))
         return status::kNullPointer;
+    (void)PersistStoryboards(project, productions, true); // a bad one spoils no more than itself
     return status::kOk;
 }
 
@@ -142,5 +144,11 @@ Status CDSFileService::ReadProjectXML(IXMLDOMNode* root, CDSProjectData* project
     if (!project)
         return status::kNullPointer;
     const Status loaded = project->LoadXML(root);
-    return Failed(loaded) ? loaded : status::kNothingDone;
+    if (Failed(loaded))
+        return loaded;
+    xmlNode* productions = FindChildElement(root, "Productions");
+    if (!productions)
+        return status::kNothingDone;
+    const Status read = PersistStoryboards(project, productions, false);
+    return Failed(read) ? read : status::kNothingDone;
 }
