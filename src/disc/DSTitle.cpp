@@ -29,11 +29,16 @@ CDSTitle::~CDSTitle() = default;
 
 Status CDSTitle::FinalConstruct()
 {
-    if (!FindChildByType(eNodeCommands, ""))
-        AdoptChild(std::make_unique<CDSCommandList>(), true);
-    if (!FindChildByType(eNodeEncoding, ""))
-        AdoptChild(std::make_unique<CDSEncodingParams>(), true);
+    MakeMissingChildren(true);
     return status::kOk;
+}
+
+void CDSTitle::MakeMissingChildren(bool assignIDs)
+{
+    if (!FindChildByType(eNodeCommands, ""))
+        AdoptChild(std::make_unique<CDSCommandList>(), assignIDs);
+    if (!FindChildByType(eNodeEncoding, ""))
+        AdoptChild(std::make_unique<CDSEncodingParams>(), assignIDs);
 }
 
 Status CDSTitle::CreateProduction()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/Property.h"
+#include "project/NodeFactory.h"
 #include "project/ProjectNode.h"
 
 #include <memory>
@@ -76,7 +77,10 @@ public:
     Status ParseAttributeMap(const std::map<std::string, std::string>& attributes) override;
 
 private:
+    friend void vantrel::MakeFixedChild(CProjectNode& parent, eNodeType type);
+
     static vantrel::AttributeTable<CDSTitle> Attributes();
+    void MakeMissingChildren(bool assignIDs);
 
     unsigned long m_tag = 1;
     unsigned long m_flags = 0;

@@ -2,7 +2,6 @@
 
 #include "disc/DSCommandList.h"
 #include "disc/DSDataFile.h"
-#include "disc/DSEncodingParams.h"
 #include "disc/DSMenu.h"
 #include "disc/DSMenuButton.h"
 #include "disc/DSTitle.h"
@@ -29,10 +28,9 @@ std::unique_ptr<CProjectNode> MakeNode(eNodeType type)
 
 void MakeFixedChild(CProjectNode& parent, eNodeType type)
 {
-    if (parent.GetType() != eNodeTitle || (type != eNodeCommands && type != eNodeEncoding))
-        return;
-    parent.AdoptChild(std::make_unique<CDSCommandList>(), false);
-    parent.AdoptChild(std::make_unique<CDSEncodingParams>(), false);
+    auto* title = dynamic_cast<CDSTitle*>(&parent);
+    if (title && (type == eNodeCommands || type == eNodeEncoding))
+        title->MakeMissingChildren(false);
 }
 
 } // namespace vantrel

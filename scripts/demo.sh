@@ -1,0 +1,27 @@
+#!/usr/bin/env bash
+# Shows the library at work on a fresh machine: builds the vantrel command, prints the page of an
+# example project, saves the project, and saves what it saved once more.
+
+source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
+
+project=examples/travel-disc/Content/travel-disc.xml
+
+scripts/setup.sh
+build release
+vantrel=build/release/tools/vantrel
+
+say "vantrel info $project"
+"$vantrel" info "$project"
+
+scratch=$(mktemp -d)
+trap 'rm -rf "$scratch"' EXIT
+# Each copy has the project's file name, for the name is part of what is saved.
+mkdir "$scratch/first" "$scratch/second"
+first=$scratch/first/travel-disc.xml
+second=$scratch/second/travel-disc.xml
+say "vantrel save $project $first"
+"$vantrel" save "$project" "$first"
+say "vantrel save $first $second"
+"$vantrel" save "$first" "$second"
+cmp "$first" "$second"
+say "The second save is the first, byte for byte ($(wc -c <"$second") bytes)"

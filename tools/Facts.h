@@ -1,0 +1,45 @@
+#pragma once
+
+#include <nlohmann/json.hpp>
+
+#include <string>
+
+/// What the tool tells of a project: one JSON object, gathered by the sections. The page for people
+/// is made from it too, so that the two can't disagree.
+namespace tool {
+
+using Json = nlohmann::ordered_json;
+
+/// `{"number": 4, "name": "DVD_47"}` from the text `4 (DVD_47)`. A number without a name has "".
+Json EnumFact(const std::string& formatted);
+
+/// `{"number": 5, "names": ["Main", "MainTemplate"]}` from the text `5 (Main|MainTemplate)`.
+Json FlagsFact(const std::string& formatted);
+
+/// What a `get_` answers: `Ask<std::string>(title, &CDSTitle::get_Label)`. The default when it gives
+/// nothing.
+template <class T, class Node, class Getter>
+T Ask(Node& node, Getter getter)
+{
+    T value{};
+    (void)(node.*getter)(&value);
+    return value;
+}
+
+/// The same for an enumeration.
+template <class T, class Node, class Getter>
+Json AskEnum(Node& node, Getter getter)
+{
+    return EnumFact(FormatEnum(Ask<T>(node, getter)));
+}
+
+/// The name in an `EnumFact`, or its number where it has none.
+std::string NameOf(const Json& fact);
+
+/// The names in a `FlagsFact` with commas between them, or the number where bits have no name.
+std::string NamesOf(const Json& fact);
+
+/// The object as one line. Text that is no UTF-8 is mended.
+std::string Line(const Json& facts);
+
+} // namespace tool
