@@ -1,8 +1,10 @@
 #include "project/ProjectNode.h"
 
+#include "core/PathUtils.h"
 #include "core/Property.h"
 #include "project/AttributeSlots.h"
 #include "project/NodeForm.h"
+#include "project/ResourceLoader.h"
 #include "xml/XmlValue.h"
 
 #include <algorithm>
@@ -80,6 +82,24 @@ Status CProjectNode::ReadXML(IXMLDOMNode* node)
     if (m_form && m_form->isExactly(*this))
         return m_form->read(*this, node);
     return ReadAttributesByMap(node);
+}
+
+bool CProjectNode::ParseResString(string source, string* out)
+{
+    if (DocumentPath().empty())
+        return false;
+    if (!m_pResLoader)
+        m_pResLoader = std::make_unique<CResourceLoader>();
+    string file = DocumentPath();
+    (void)Utils::GetContentPath(&file); // a path without a content folder has no table beside it
+    file += "ThemeStrings.xml";
+    (void)m_pResLoader->InitWithXmlFile(file.c_str()); // tables that came earlier may still serve
+
+    string text;
+    const bool isResolved = m_pResLoader->ParseString(source, &text);
+    if (out)
+        *out = std::move(isResolved ? text : source);
+    return isResolved;
 }
 
 Status CProjectNode::ReadAttributesByMap(const _xmlNode* element)

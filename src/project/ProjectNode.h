@@ -11,6 +11,8 @@
 #include <string>
 #include <vector>
 
+class CResourceLoader;
+
 namespace vantrel {
 struct NodeForm;
 }
@@ -71,6 +73,12 @@ public:
     /// name that XML can't have is reported on standard output and gives `status::kNullPointer`.
     Status WriteNodeAttributes(IXMLDOMNode* node,
                                const std::map<std::string, std::string>& attributes);
+
+    /// Resolves a reference "stringRef:Table.Key" through "ThemeStrings.xml" in the content folder of
+    /// the document that this node was read from. True with the string in `out`; false, with `source`
+    /// itself in `out`, when it is none or doesn't resolve. A node that was never read gives false
+    /// and leaves `out` alone.
+    bool ParseResString(std::string source, std::string* out);
 
     /// @name Tree
     /// @{
@@ -149,6 +157,7 @@ private:
     Status ReadAttributesByMap(const _xmlNode* element);
 
     std::shared_ptr<const std::string> m_documentPath; ///< shared with the parent where equal
+    std::unique_ptr<CResourceLoader> m_pResLoader;     ///< made at the first need
     long m_id = 0;
     eNodeType m_type;
     bool m_owned = false; ///< released by `m_holder`
