@@ -3,7 +3,10 @@
 #include "disc/DSCommandList.h"
 #include "disc/DSMenu.h"
 #include "disc/DSMenuElementList.h"
+#include "disc/DSMenuOverlay.h"
+#include "disc/DSMenuText.h"
 #include "menu/ButtonRows.h"
+#include "menu/GeometryUtils.h"
 #include "project/NodeForm.h"
 
 using std::map;
@@ -16,8 +19,21 @@ namespace {
 enum : int
 {
     kLinks = 0,
-    kActiveRegion = 1
+    kActiveRegion = 1,
+    kElements = 3
 };
+
+/// Whether an element of a button lights up with it; what says nothing of it does.
+bool IsHighlighted(CProjectNode& element)
+{
+    OverlayHighlight ofOverlay = OverlayHighlight::Extent;
+    TextHighlight ofText = TextHighlight::Extent;
+    if (auto* overlay = dynamic_cast<CDSMenuOverlay*>(&element))
+        (void)overlay->get_Highlight(&ofOverlay); // the output is there
+    else if (auto* text = dynamic_cast<CDSMenuText*>(&element))
+        (void)text->get_Highlight(&ofText);
+    return ofOverlay != OverlayHighlight::None && ofText != TextHighlight::None;
+}
 
 } // namespace
 
@@ -128,6 +144,25 @@ bool CDSMenuButton::IsNative() const
 Status CDSMenuButton::GetBoundingBox(FloatPoint*)
 {
     return status::kNoBoundingBox;
+}
+
+Status CDSMenuButton::GetHighlightRegion(FloatRect* out)
+{
+    FRect region;
+    Status result = status::kNothingDone;
+    CProjectNode* elements = GetChild(kElements);
+    for (int i = 0; elements && i < elements->GetNumChildren(); ++i) {
+        const CMenuElementImpl* element = ElementOf(elements->GetChild(i));
+        FRect extent;
+        if (!element || !IsHighlighted(*elements->GetChild(i)) ||
+            Failed(element->getExtent(&extent)))
+            continue;
+        result = status::kOk;
+        (void)UnionRectFloat(region, region, extent); // two empty ones leave it empty
+    }
+    const Status given =
+        Give(out, FloatRect{ region.left, region.top, region.right, region.bottom });
+    return Failed(given) ? given : result;
 }
 
 Status CDSMenuButton::get_ActiveRegion(FloatRect* region, bool* valid)

@@ -4,6 +4,8 @@
 #include "disc/DSDataFile.h"
 #include "disc/DSMenu.h"
 #include "disc/DSMenuButton.h"
+#include "disc/DSMenuOverlay.h"
+#include "disc/DSMenuText.h"
 #include "disc/DSTitle.h"
 
 namespace vantrel {
@@ -17,6 +19,10 @@ std::unique_ptr<CProjectNode> MakeNode(eNodeType type)
         return std::make_unique<CDSMenu>();
     case eNodeButton:
         return std::make_unique<CDSMenuButton>();
+    case eNodeOverlay:
+        return std::make_unique<CDSMenuOverlay>();
+    case eNodeText:
+        return std::make_unique<CDSMenuText>();
     case eNodeFile:
         return std::make_unique<CDSDataFile>();
     case eNodeCommand:

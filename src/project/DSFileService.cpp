@@ -4,6 +4,7 @@
 #include "core/PathUtils.h"
 #include "core/Version.h"
 #include "disc/DSProjectData.h"
+#include "xml/KeptXml.h"
 #include "xml/XmlFile.h"
 #include "xml/XmlPtr.h"
 #include "xml/XmlValue.h"
@@ -86,6 +87,7 @@ Status CDSFileService::WriteFile(const string& path, CDSProjectData* project, Fi
     string name;
     (void)Utils::GetDirectoryAndFileName(path, nullptr, &name, nullptr);
     (void)project->put_DisplayName(name);
+    const XmlLoan loan(doc.get());
     const Status built = WriteProjectXML(AsNode(xmlDocGetRootElement(doc.get())), project);
     if (Failed(built))
         return built;
@@ -125,6 +127,7 @@ Status CDSFileService::LoadProject(const char* path, CDSProjectData* project)
     }
     if (ReadVersion(AsElement(root)) < kOldestFileVersion)
         return status::kOldVersion;
+    const XmlGift gift(doc.get());
     (void)ReadProjectXML(AsNode(root), project); // the version has passed: what can be read is read
     return status::kOk;
 }

@@ -169,6 +169,9 @@ private:
 /// Stands in `_private` of a document to which subtrees may be lent.
 constexpr char kBorrower = 0;
 
+/// The same for a document that is given away. The two differ by address.
+constexpr char kGift = 0;
+
 /// The node behind `node` in document order below `top`, or null. `Enter` tells whether what stands
 /// below `node` counts.
 xmlNode* NextBelow(const xmlNode* top, xmlNode* node, bool enter = true)
@@ -276,6 +279,12 @@ XmlNodePtr CopyXml(const xmlNode* node)
     return PlainCopier(nullptr).Copy(node);
 }
 
+KeptXmlPtr KeepXml(xmlNode* node)
+{
+    const bool isGiven = node && node->doc && node->doc->_private == &kGift;
+    return isGiven ? TakeXml(node) : KeptXmlPtr{ CopyXml(node).release() };
+}
+
 KeptXmlPtr TakeXml(xmlNode* node)
 {
     if (!node)
@@ -317,6 +326,16 @@ Status AppendKeptXml(xmlNode* parent, const KeptXmlPtr& kept)
     (parent->last ? parent->last->next : parent->children) = kept.get();
     parent->last = kept.get();
     return status::kOk;
+}
+
+XmlGift::XmlGift(xmlDoc* doc) : m_doc(doc)
+{
+    m_doc->_private = const_cast<char*>(&kGift);
+}
+
+XmlGift::~XmlGift()
+{
+    m_doc->_private = nullptr;
 }
 
 XmlLoan::XmlLoan(xmlDoc* doc) : m_doc(doc)

@@ -21,6 +21,10 @@ struct ReleaseKeptXml
 /// A subtree from `TakeXml` or `CopyXml`.
 using KeptXmlPtr = std::unique_ptr<xmlNode, ReleaseKeptXml>;
 
+/// Keeps `node` of a document that is read: takes it while the document is given away, an `XmlGift`,
+/// and copies it otherwise. Null gives null.
+KeptXmlPtr KeepXml(xmlNode* node);
+
 /// A deep copy of `node`. Null gives null.
 XmlNodePtr CopyXml(const xmlNode* node);
 
@@ -35,6 +39,20 @@ Status AppendXmlCopy(xmlNode* parent, const xmlNode* node);
 /// Writes a kept subtree as the last child of `parent`: lent to the document for the time of an
 /// `XmlLoan`, and copied otherwise.
 Status AppendKeptXml(xmlNode* parent, const KeptXmlPtr& kept);
+
+/// Tells those who read a document that it is released afterwards, so that they may take out of it
+/// what they keep. Lives no longer than the document.
+class XmlGift
+{
+public:
+    explicit XmlGift(xmlDoc* doc);
+    ~XmlGift();
+    XmlGift(const XmlGift&) = delete;
+    XmlGift& operator=(const XmlGift&) = delete;
+
+private:
+    xmlDoc* m_doc; ///< not owned
+};
 
 /// Lets kept subtrees be lent to a document that is saved and released at once, so that a save need
 /// not copy them. Lives between the making of the document and its release, and hands everything
