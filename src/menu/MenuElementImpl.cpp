@@ -48,7 +48,7 @@ Status CMenuElementImpl::setRawPosition(float x, float y)
     if (HasEffect()) {
         float former[3] = {};
         (void)m_effect.getTranslation(&former[0], &former[1], &former[2]);
-        return m_effect.setTranslation(x, y, former[2]);
+        (void)m_effect.setTranslation(x, y, former[2]); // without data the fields serve
     }
     return status::kOk;
 }
@@ -97,7 +97,7 @@ Status CMenuElementImpl::setRotation(float degrees)
     if (HasEffect()) {
         float former[3] = {};
         (void)m_effect.getRotation(&former[0], &former[1], &former[2]);
-        return m_effect.setRotation(former[0], former[1], degrees);
+        (void)m_effect.setRotation(former[0], former[1], degrees);
     }
     return status::kOk;
 }
