@@ -51,6 +51,7 @@ build_with_pkg_config() {
         "-Wl,-rpath,$libdir" && "$scratch/consumer"
 }
 
+step "Run the installed command" "$prefix/bin/vantrel" --version
 step "Compile each installed header alone" check_headers
 step "Find all installed headers in Vantrel.h" check_headers_are_gathered
 step "Look at the installed library" check_library

@@ -1,46 +1,37 @@
 #include "Facts.h"
 
-#include <charconv>
 #include <string_view>
 
 namespace tool {
 
 namespace {
 
-/// A text such as `4 (DVD_47)` in its two pieces.
-struct Formatted
+/// What stands in the parentheses of a text such as `4 (DVD_47)`.
+std::string_view NamesIn(std::string_view formatted)
 {
-    long number = 0;
-    std::string_view names;
-
-    explicit Formatted(std::string_view text)
-    {
-        std::from_chars(text.data(), text.data() + text.size(), number);
-        const auto open = text.find('(');
-        const auto close = text.rfind(')');
-        if (open != text.npos && close != text.npos && close > open)
-            names = text.substr(open + 1, close - open - 1);
-    }
-};
+    const auto open = formatted.find('(');
+    const auto close = formatted.rfind(')');
+    if (open == formatted.npos || close == formatted.npos || close < open)
+        return {};
+    return formatted.substr(open + 1, close - open - 1);
+}
 
 } // namespace
 
 Json EnumFact(const std::string& formatted)
 {
-    const Formatted value(formatted);
-    return { { "number", value.number }, { "name", value.names } };
+    return { { "number", GetPropValue(formatted.c_str()) }, { "name", NamesIn(formatted) } };
 }
 
-Json FlagsFact(const std::string& formatted)
+Json FlagsFact(unsigned long number, const std::string& formatted)
 {
-    const Formatted value(formatted);
     Json names = Json::array();
-    for (std::string_view rest = value.names; !rest.empty();) {
+    for (std::string_view rest = NamesIn(formatted); !rest.empty();) {
         const auto bar = rest.find('|');
         names.push_back(rest.substr(0, bar));
         rest.remove_prefix(bar == rest.npos ? rest.size() : bar + 1);
     }
-    return { { "number", value.number }, { "names", std::move(names) } };
+    return { { "number", number }, { "names", std::move(names) } };
 }
 
 std::string NameOf(const Json& fact)

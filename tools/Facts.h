@@ -1,5 +1,7 @@
 #pragma once
 
+#include <Vantrel.h>
+
 #include <nlohmann/json.hpp>
 
 #include <string>
@@ -13,8 +15,9 @@ using Json = nlohmann::ordered_json;
 /// `{"number": 4, "name": "DVD_47"}` from the text `4 (DVD_47)`. A number without a name has "".
 Json EnumFact(const std::string& formatted);
 
-/// `{"number": 5, "names": ["Main", "MainTemplate"]}` from the text `5 (Main|MainTemplate)`.
-Json FlagsFact(const std::string& formatted);
+/// `{"number": 5, "names": ["Main", "MainTemplate"]}` from 5 and the text `5 (Main|MainTemplate)`,
+/// which has no more than 32 bits of the number.
+Json FlagsFact(unsigned long number, const std::string& formatted);
 
 /// What a `get_` answers: `Ask<std::string>(title, &CDSTitle::get_Label)`. The default when it gives
 /// nothing.
@@ -31,6 +34,14 @@ template <class T, class Node, class Getter>
 Json AskEnum(Node& node, Getter getter)
 {
     return EnumFact(FormatEnum(Ask<T>(node, getter)));
+}
+
+/// The same for a bit set; `format` is the library's function for its kind.
+template <class Node, class Getter>
+Json AskFlags(Node& node, Getter getter, std::string (*format)(unsigned long))
+{
+    const auto number = Ask<unsigned long>(node, getter);
+    return FlagsFact(number, format(number));
 }
 
 /// The name in an `EnumFact`, or its number where it has none.

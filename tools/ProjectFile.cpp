@@ -3,8 +3,8 @@
 #include <libxml/xmlreader.h>
 
 #include <cerrno>
-#include <charconv>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
 #include <filesystem>
@@ -144,10 +144,8 @@ unsigned long FileVersion(const string& path)
         const unsigned char attribute[] = "Version";
         const std::unique_ptr<xmlChar, vantrel::XmlRelease> value(
             xmlTextReaderGetAttribute(reader.get(), attribute));
-        if (value) {
-            const auto* text = reinterpret_cast<const char*>(value.get());
-            std::from_chars(text, text + std::strlen(text), version);
-        }
+        if (value)
+            version = std::strtoul(reinterpret_cast<const char*>(value.get()), nullptr, 10);
         break;
     }
     return version;

@@ -31,8 +31,7 @@ void AddSettings(Json& facts, CDSProjectData& project)
     facts["discSize"] = AskEnum<DiscSizeEnum>(project, &P::get_DiscSize);
     facts["tvStandard"] = AskEnum<TVStandard>(project, &P::get_TVStandard);
     facts["discVideoType"] = AskEnum<DiscVideoType>(project, &P::get_DiscVideoType);
-    facts["options"] =
-        FlagsFact(FormatProjectOptions(Ask<unsigned long>(project, &P::get_Options)));
+    facts["options"] = AskFlags(project, &P::get_Options, FormatProjectOptions);
     facts["themeSource"] = Ask<string>(project, &P::get_ThemeSource);
     facts["fitToDisc"] = Ask<bool>(project, &P::get_FitToDisc);
     facts["onDiscProject"] = Ask<bool>(project, &P::get_IsOnDisc);

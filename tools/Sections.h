@@ -3,8 +3,6 @@
 #include "Facts.h"
 #include "Page.h"
 
-#include <Vantrel.h>
-
 /// The sections of the tool's report. Each has two halves: `...Facts` asks the library and gives
 /// JSON, `Show...` puts that JSON on the page.
 namespace tool {
@@ -18,7 +16,8 @@ Json CommandFacts(CProjectNode* list);
 /// Commands on one line.
 std::string CommandText(const Json& commands);
 
-/// A `CDSEncodingParams`; null gives null.
+/// A `CDSEncodingParams` with the values that apply, which are the project's where it is
+/// synchronised; null gives null.
 Json EncodingFacts(CProjectNode* node);
 /// A set's values on one line each: video, audio, display.
 void ShowEncoding(Page& page, const Json& encoding);

@@ -12,7 +12,7 @@ Json Facts(CDSTitle& title)
     Json facts;
     facts["id"] = Ask<long>(title, &T::get_ID);
     facts["label"] = Ask<string>(title, &T::get_Label);
-    facts["tag"] = FlagsFact(FormatTitleTag(Ask<unsigned long>(title, &T::get_Tag)));
+    facts["tag"] = AskFlags(title, &T::get_Tag, FormatTitleTag);
     facts["flags"] = Ask<unsigned long>(title, &T::get_Flags);
     facts["discIndex"] = Ask<long>(title, &T::get_DiscIndex);
     facts["stillWaitSecs"] = Ask<long>(title, &T::get_StillWaitTime);

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "core/Property.h"
-#include "project/NodeFactory.h"
 #include "project/ProjectNode.h"
 
 #include <memory>
@@ -12,7 +11,8 @@ class CQZBaseSBD;
 namespace vantrel {
 template <class Node>
 class AttributeTable;
-}
+void MakeFixedChild(CProjectNode& parent, eNodeType type); // of project/NodeFactory.h
+} // namespace vantrel
 
 /// One playable title of the disc. Titles live in the project's "Titles" list.
 ///

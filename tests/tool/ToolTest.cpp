@@ -16,6 +16,7 @@ using testing::MatchesRegex;
 using Json = nlohmann::json;
 
 const string kTravelDisc = EXAMPLES_FOLDER "/travel-disc/Content/travel-disc.xml";
+const string kOldDisc = EXAMPLES_FOLDER "/old-disc/old-disc.xml";
 
 /// The least that loads, its settings given as attributes of "Project".
 string ProjectXml(const string& attributes, const string& content = "")
@@ -172,12 +173,14 @@ TEST_F(Tool, FoldersAndMissingFilesAreNamed)
 
 TEST_F(Tool, SavingAgainGivesTheSameBytes)
 {
-    ASSERT_EQ(Run("save '" + kTravelDisc + "' " + Path("disc.xml")), 0) << m_err;
-    const string first = ReadFile(m_folder / "disc.xml");
-    EXPECT_THAT(first, HasSubstr(" name=\"disc\" "));
-    ASSERT_EQ(Run("save " + Path("disc.xml") + " " + Path("disc.xml")), 0) << m_err;
-    EXPECT_EQ(ReadFile(m_folder / "disc.xml"), first);
-    EXPECT_EQ(m_out + m_err, "");
+    for (const string& project : { kTravelDisc, kOldDisc }) {
+        ASSERT_EQ(Run("save '" + project + "' " + Path("disc.xml")), 0) << m_err;
+        const string first = ReadFile(m_folder / "disc.xml");
+        EXPECT_THAT(first, HasSubstr(" name=\"disc\" "));
+        ASSERT_EQ(Run("save " + Path("disc.xml") + " " + Path("disc.xml")), 0) << m_err;
+        EXPECT_EQ(ReadFile(m_folder / "disc.xml"), first);
+        EXPECT_EQ(m_out + m_err, "");
+    }
 }
 
 TEST_F(Tool, WrongUseIsExplained)
