@@ -2,95 +2,71 @@
 
 #include "support/XmlFixture.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <tuple>
+#include <vector>
 
 namespace {
 
-struct Software : COverlaysSoftwareBase
-{
-    std::tuple<int, int, float> Frame() const
-    {
-        return { m_frameWidth, m_frameHeight, m_frameAspect };
-    }
-    std::tuple<unsigned long, unsigned long> Viewport() const
-    {
-        return { m_viewportWidth, m_viewportHeight };
-    }
-};
-
-/// An overlay with a frame of that width and a picture measured by a load.
 struct Overlay : CVCPOverlayRect
 {
-    explicit Overlay(int width) { EXPECT_EQ(SInit(width, 480, &m_matrix, &m_matrix), status::kOk); }
-
-    Status Load(const char* text = "<plugin_data><html><body/></html></plugin_data>")
+    Status Load(const char* text = "<d><html><body/></html></d>")
     {
         return LoadXML(XmlText(text).root());
     }
-    std::tuple<int, int, int> Sizes()
-    {
-        int width = 0, height = 0, rowBytes = 0;
-        EXPECT_EQ(GetPicture(nullptr, &width, &height, &rowBytes), status::kOk);
-        return { width, height, rowBytes };
-    }
-    std::tuple<float, float> TopAndBottom() const
+    /// Top and bottom of the rectangle, width, height and row length of the picture.
+    std::vector<float> Sizes()
     {
         D3DXVECTOR3 top, bottom;
         GetModelBoundingRect(&top, &bottom, nullptr, nullptr);
-        return { top.y, bottom.y };
+        int width = 0, height = 0, rowBytes = 0;
+        EXPECT_EQ(GetPicture(nullptr, &width, &height, &rowBytes), status::kOk);
+        return { top.y, bottom.y, float(width), float(height), float(rowBytes) };
     }
-
-    D3DXMATRIX m_matrix = {};
+    std::vector<float> Frame() const
+    {
+        return { float(m_frameWidth), float(m_viewportHeight), m_frameAspect };
+    }
 };
 
 } // namespace
 
-TEST(SoftwareOverlay, InitTakesFrameOrNothing)
-{
-    Software overlay;
-    D3DXMATRIX a, b;
-    EXPECT_EQ(overlay.SBInit(640, 480, nullptr, &b), status::kNullPointer);
-    EXPECT_EQ(overlay.SBInit(640, 480, &a, nullptr), status::kNullPointer);
-    EXPECT_EQ(overlay.Frame(), std::tuple(320, 240, 1.33F));
-    EXPECT_EQ(overlay.SBInit(640, 480, &a, &b), status::kOk);
-    EXPECT_EQ(overlay.Frame(), std::tuple(640, 480, 1.3333334F));
-    EXPECT_EQ(overlay.Viewport(), std::tuple(640, 480));
-}
-
 TEST(OverlayRect, BringsRectangleIntoFrameProportionsOnce)
 {
-    Overlay overlay(720);
-    EXPECT_EQ(overlay.Load("<plugin_data/>"), status::kNothingDone);
-    EXPECT_EQ(overlay.TopAndBottom(), std::tuple(1.0F, -1.0F));
+    using testing::ElementsAre;
+    Overlay overlay;
+    D3DXMATRIX matrix = {};
+    EXPECT_EQ(overlay.SInit(640, 480, &matrix, nullptr), status::kNullPointer);
+    EXPECT_THAT(overlay.Frame(), ElementsAre(320, 240, 1.33F));
+    EXPECT_EQ(overlay.SInit(720, 480, &matrix, &matrix), status::kOk);
+    EXPECT_THAT(overlay.Frame(), ElementsAre(720, 480, 1.5F));
+
+    EXPECT_EQ(overlay.Load("<d/>"), status::kNothingDone);
+    EXPECT_THAT(overlay.Sizes(), ElementsAre(1, -1, 0, 0, 0));
     for (int i = 0; i < 2; ++i) {
         EXPECT_EQ(overlay.Load(), status::kOk);
-        EXPECT_EQ(overlay.TopAndBottom(), std::tuple(0.75F, -0.75F));
-        EXPECT_EQ(overlay.Sizes(), std::tuple(720, 540, 2880));
+        EXPECT_THAT(overlay.Sizes(), ElementsAre(0.75F, -0.75F, 720, 540, 2880));
     }
     overlay.SetBoundingRect(-1, 2, 1, -2);
     overlay.Load();
-    EXPECT_EQ(overlay.TopAndBottom(), std::tuple(1.5F, -1.5F));
+    EXPECT_THAT(overlay.Sizes(), ElementsAre(1.5F, -1.5F, 720, 1080, 2880));
 }
 
 TEST(OverlayRect, PictureIsZeroAndBounded)
 {
-    Overlay overlay(10);
-    char* pixels = nullptr;
-    EXPECT_EQ(overlay.GetPicture(&pixels, nullptr, nullptr, nullptr), status::kOk);
-    EXPECT_EQ(pixels, nullptr); // nothing loaded
+    Overlay overlay;
+    D3DXMATRIX matrix = {};
+    overlay.SInit(10, 480, &matrix, &matrix);
     overlay.Load();
+    char* pixels = nullptr;
     ASSERT_EQ(overlay.GetPicture(&pixels, nullptr, nullptr, nullptr), status::kOk);
-    EXPECT_EQ(std::count(pixels, pixels + 10 * 7 * 4, 0), 10 * 7 * 4);
-
+    EXPECT_THAT(std::string(pixels, 10 * 7 * 4), testing::Each('\0'));
+    overlay.SetBoundingRect(-3e38F, 3e38F, -3e38F, 3e38F); // nothing wide, and no height at all
+    overlay.Load();
+    EXPECT_EQ(overlay.GetPicture(&pixels, nullptr, nullptr, nullptr), status::kOk);
+    EXPECT_EQ(pixels, nullptr);
     overlay.SetBoundingRect(-3e38F, 3e38F, 3e38F, -3e38F);
     overlay.Load();
-    EXPECT_EQ(overlay.Sizes(), std::tuple(8192, 8192, 32768));
-    overlay.SetBoundingRect(1, -1, -1, 1);
-    overlay.Load();
-    EXPECT_EQ(overlay.Sizes(), std::tuple(0, 0, 0));
-    overlay.GetPicture(&pixels, nullptr, nullptr, nullptr);
-    EXPECT_EQ(pixels, nullptr);
+    EXPECT_EQ(overlay.Sizes()[2] + overlay.Sizes()[3], 2 * 8192);
 }
