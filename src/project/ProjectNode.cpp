@@ -90,16 +90,18 @@ bool CProjectNode::ParseResString(string source, string* out)
         return false;
     if (!m_pResLoader)
         m_pResLoader = std::make_unique<CResourceLoader>();
-    string file = DocumentPath();
+    constexpr std::string_view table = "ThemeStrings.xml";
+    string file;
+    file.reserve(DocumentPath().size() + table.size());
+    file = DocumentPath();
     (void)Utils::GetContentPath(&file); // a path without a content folder has no table beside it
-    file += "ThemeStrings.xml";
+    file += table;
     (void)m_pResLoader->InitWithXmlFile(file.c_str()); // tables that came earlier may still serve
 
-    string text;
-    const bool isResolved = m_pResLoader->ParseString(source, &text);
+    const string* text = m_pResLoader->FindText(source);
     if (out)
-        *out = std::move(isResolved ? text : source);
-    return isResolved;
+        *out = text ? *text : source;
+    return text != nullptr;
 }
 
 Status CProjectNode::ReadAttributesByMap(const _xmlNode* element)

@@ -1,5 +1,6 @@
 #include "project/ResourceLoader.h"
 
+#include "core/Property.h"
 #include "xml/XmlFile.h"
 #include "xml/XmlValue.h"
 
@@ -105,18 +106,19 @@ bool CResourceLoader::InitWithXmlFile(const char* path)
     return true;
 }
 
-void CResourceLoader::Adopt(std::shared_ptr<const Tables> tables)
+void CResourceLoader::Adopt(const std::shared_ptr<const Tables>& tables)
 {
     if (tables == m_lastTaken)
         return;
     m_lastTaken = tables;
     const auto isReplaced = [&](const auto& entry) { return tables->contains(entry.first); };
-    if (m_tables && !std::ranges::all_of(*m_tables, isReplaced)) {
-        const auto both = std::make_shared<Tables>(*tables);
-        both->insert(m_tables->begin(), m_tables->end()); // only names that are not there yet
-        tables = both;
+    if (!m_tables || std::ranges::all_of(*m_tables, isReplaced)) {
+        m_tables = tables;
+        return;
     }
-    m_tables = std::move(tables);
+    const auto both = std::make_shared<Tables>(*tables);
+    both->insert(m_tables->begin(), m_tables->end()); // only names that are not there yet
+    m_tables = both;
 }
 
 bool CResourceLoader::LoadStringTable(_xmlNode* root)
@@ -174,18 +176,24 @@ string CResourceLoader::GetTextValue(_xmlNode* node)
 
 bool CResourceLoader::ParseString(string text, string* out)
 {
-    if (!m_tables || !out)
-        return false;
+    const string* found = FindText(text);
+    return found && !Failed(Give(out, *found));
+}
+
+const string* CResourceLoader::FindText(const string& text) const
+{
+    static const string noText;
+    if (!m_tables)
+        return nullptr;
     const std::size_t reference = text.find(kReference);
     const std::size_t dot = text.find('.');
     if (reference == string::npos || dot == string::npos || dot < reference)
-        return false;
+        return nullptr;
 
     const std::size_t name = reference + kReference.size();
     const auto table = m_tables->find(text.substr(name, dot - name));
     if (table == m_tables->end() || table->second.empty())
-        return false;
+        return nullptr;
     const auto found = table->second.find(text.substr(dot + 1));
-    *out = found == table->second.end() ? string() : found->second;
-    return true;
+    return found == table->second.end() ? &noText : &found->second;
 }

@@ -31,6 +31,9 @@ public:
     /// table that isn't known or is empty and for a text that is no reference.
     bool ParseString(std::string text, std::string* out);
 
+    /// The text that `ParseString` would give, or null. It lives until the loader takes in a file.
+    const std::string* FindText(const std::string& text) const;
+
     /// Takes over the tables below a root element. False for null or a root without children, which
     /// is reported on standard output.
     bool LoadStringTable(_xmlNode* root);
@@ -52,7 +55,7 @@ private:
 
     struct RememberedFile;
 
-    void Adopt(std::shared_ptr<const Tables> tables);
+    void Adopt(const std::shared_ptr<const Tables>& tables);
     static RememberedFile& Remembered();
 
     std::shared_ptr<const Tables> m_tables;    ///< table name to table

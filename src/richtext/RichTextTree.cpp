@@ -3,6 +3,9 @@
 #include "richtext/TextAttributes.h"
 #include "xml/XmlPtr.h"
 
+#include <libxml/valid.h>
+
+#include <algorithm>
 #include <utility>
 
 using std::string;
@@ -11,6 +14,8 @@ using std::string_view;
 namespace vantrel {
 
 namespace {
+
+constexpr std::size_t kLongestValue = 1'000'000; // a file's parser has little room for an attribute
 
 /// An element that no reader sees anything in.
 constexpr const char* kNeutralName = "span";
@@ -22,9 +27,9 @@ bool IsBlank(const xmlNode* text)
 
 bool IsFormatElement(const xmlNode* node)
 {
-    const string_view name = NameOf(node);
-    return IsElement(node) && (name == WS_NODE_NAME_PARA || name == WS_NODE_NAME_FONT ||
-                               name == WS_NODE_NAME_BOLD || name == WS_NODE_NAME_ITAL);
+    const string_view tag = TagOf(node);
+    return tag == WS_NODE_NAME_PARA || tag == WS_NODE_NAME_FONT || tag == WS_NODE_NAME_BOLD ||
+           tag == WS_NODE_NAME_ITAL;
 }
 
 /// Hangs the chain `first` to `last` under `parent`, between two neighbours that may be null.
@@ -79,6 +84,14 @@ xmlNode* SettleNeighbours(xmlNode* text)
 }
 
 } // namespace
+
+bool FitsFile(const std::map<string, string>& attributes)
+{
+    return std::ranges::all_of(attributes, [](const auto& entry) {
+        return xmlValidateName(XmlChars(entry.first.c_str()), 0) == 0 &&
+               entry.second.size() <= kLongestValue;
+    });
+}
 
 xmlNode* NextBelow(const xmlNode* node, const xmlNode* top)
 {

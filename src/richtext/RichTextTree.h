@@ -4,6 +4,7 @@
 
 #include <libxml/tree.h>
 
+#include <map>
 #include <string>
 #include <string_view>
 
@@ -14,6 +15,19 @@ namespace vantrel {
 
 /// The longest text node that libxml2 reads back from a file.
 inline constexpr std::size_t kLongestText = 10'000'000;
+
+/// In the place of an attribute's value: the attribute is to be taken off.
+inline constexpr const char* kRemoveAttribute = "TEXTED_REMOVE";
+
+/// True when a file can hold these attributes and give them back.
+bool FitsFile(const std::map<std::string, std::string>& attributes);
+
+/// The name of a rich text element; empty for anything else. A name with a prefix is another language's,
+/// also where a kept copy has made the prefix part of the name.
+inline std::string_view TagOf(const xmlNode* node)
+{
+    return IsElement(node) && !(node->ns && node->ns->prefix) ? NameOf(node) : std::string_view();
+}
 
 inline bool IsTextNode(const xmlNode* node)
 {

@@ -134,7 +134,7 @@ public:
     void Visit(const xmlNode* element, const RunAttributes& outer)
     {
         RunAttributes around = ReadElement(element);
-        if (NameOf(element) != m_bodyName)
+        if (TagOf(element) != m_bodyName)
             AccumulateAttributes(around, outer);
         for (const xmlNode* child = element->children; child; child = child->next) {
             if (IsRun(child))
@@ -162,19 +162,19 @@ private:
     RunAttributes ReadElement(const xmlNode* element)
     {
         RunAttributes own;
-        const string_view name = NameOf(element);
-        if (name == WS_NODE_NAME_FONT) {
+        const string_view tag = TagOf(element);
+        if (tag == WS_NODE_NAME_FONT) {
             ReadTexts(element, kFontTexts, own);
             for (const auto& flag : kFontFlags) {
                 const string_view text = AttributeText(element, flag.name);
                 if (!text.empty())
                     own.*flag.field = ParseLong(text) != 0;
             }
-        } else if (name == WS_NODE_NAME_PARA) {
+        } else if (tag == WS_NODE_NAME_PARA) {
             ReadTexts(element, kParagraphTexts, own);
         }
         for (const StyleGroup& group : kStyles) {
-            if (name == group.element)
+            if (tag == group.element)
                 SetGroup(own.m_style, group, group.all);
         }
         return own;

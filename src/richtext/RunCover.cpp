@@ -35,9 +35,10 @@ public:
     /// True when runs below `element` are left for an outer element to decide on.
     bool Visit(xmlNode* element, Around around, int level)
     {
-        if (NameOf(element) == m_bodyName)
+        const bool isBody = TagOf(element) == m_bodyName;
+        if (isBody)
             around = {};
-        const bool isOne = NameOf(element) == m_name;
+        const bool isOne = TagOf(element) == m_name;
         const bool decides = isOne && HasValue(element);
         const bool takes = decides || (isOne && !around.decided);
         around = { around.covered || isOne, around.decided || decides };
@@ -49,14 +50,14 @@ public:
                 m_scan.hasLooseRun |= !around.covered;
                 undecided |= around.covered;
             } else if (IsElement(child)) {
-                if (NameOf(child) == m_name)
+                if (TagOf(child) == m_name)
                     m_scan.elements.push_back(child);
                 undecided |= Visit(child, around, level + 1);
             }
         }
         if (takes && undecided)
             m_scan.deciding.push_back(element);
-        return undecided && !takes && NameOf(element) != m_bodyName;
+        return undecided && !takes && !isBody;
     }
 
 private:
@@ -79,7 +80,7 @@ class Coverer
 {
 public:
     Coverer(xmlNode* body, const string& name, vector<xmlNode*>& made)
-        : m_bodyName(NameOf(body)),
+        : m_body(body),
           m_name(name),
           m_made(made)
     {}
@@ -92,13 +93,13 @@ public:
 
     Content Visit(xmlNode* element, bool covered)
     {
-        const string_view name = NameOf(element);
-        const bool isBody = name == m_bodyName;
-        const bool isOne = name == m_name;
+        const string_view tag = TagOf(element);
+        const bool isBody = element == m_body || tag == NameOf(m_body);
+        const bool isOne = tag == m_name;
         covered = (covered && !isBody) || isOne;
 
         Content content;
-        content.isClosed = isBody || isOne || name == WS_NODE_NAME_PARA;
+        content.isClosed = isBody || isOne || tag == WS_NODE_NAME_PARA;
         vector<Group> groups(1); // the last one grows until a closed child ends it
         for (xmlNode* child = element->children; child; child = child->next) {
             const Content inner = ContentOf(child, covered);
@@ -148,7 +149,7 @@ private:
         }
     }
 
-    string_view m_bodyName;
+    const xmlNode* m_body;
     const string& m_name;
     vector<xmlNode*>& m_made;
     bool m_hasFailed = false;

@@ -104,8 +104,8 @@ public:
                       std::map<std::string, std::string>& attributes, bool before, _xmlNode*& node,
                       _xmlNode** out);
 
-    /// Takes an element below the body out of its tree and keeps its content there. `node` is the
-    /// first node of the body afterwards.
+    /// Takes an element below the body out of its tree and keeps its content there. `node`
+    /// becomes null.
     Status DeleteNode(_xmlNode*& node);
 
     /// `XMLSaveAttributes`, or nothing for an empty map.
