@@ -118,6 +118,8 @@ private:
     Status Answer(Ask ask);
     template <class Change>
     Status Edit(Change change);
+    template <class Change>
+    Status EditEffect(Change change);
 
     _TextHandles m_handle = _TextHandles::TopLeft;
     double m_rotateAngle = 0.0;
