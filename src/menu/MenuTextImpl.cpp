@@ -7,6 +7,7 @@
 #include "transform/RestingKey.h"
 #include "transform/VCPOverlayRect.h"
 #include "transform/VCPPlugInHelper.h"
+#include "xml/KeptXml.h"
 #include "xml/XmlValue.h"
 
 #include <algorithm>

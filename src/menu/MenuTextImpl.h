@@ -3,7 +3,7 @@
 #include "menu/MenuElementImpl.h"
 #include "project/DiscEnums.h"
 #include "transform/VCPKeyframeData.h"
-#include "xml/KeptXml.h"
+#include "xml/KeptXmlPtr.h"
 
 #include <memory>
 #include <string>
