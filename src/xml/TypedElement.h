@@ -1,0 +1,45 @@
+#pragma once
+
+#include "core/Status.h"
+
+#include <libxml/tree.h>
+
+#include <string>
+#include <string_view>
+
+/// Typed elements: a value as the text of an element whose "dt:dt" names the value's type. The
+/// inside of `XMLHelpers<void>` and of the member tables.
+namespace vantrel {
+
+/// Adds an element without namespace as the last child of `parent`. Null when `parent` is null,
+/// `name` empty, or memory fails.
+xmlNode* AddElement(xmlNode* parent, const char* name);
+
+/// The same with `text` as the value of a typed element: "Name" when `name` isn't empty, "dt:dt"
+/// and, made fit for a file, the text. An empty `type` makes a bare container, without any text.
+xmlNode* AddTypedElement(xmlNode* parent, const char* element, std::string_view name,
+                         const char* type, const std::string& text);
+
+/// The element at the "/"-separated `path` below `parent`, always the first of each name; with a
+/// `name` the first that bears it as "Name". Null when there is none.
+xmlNode* FindTypedElement(xmlNode* parent, std::string_view path, std::string_view name);
+
+/// An element's value: its first child's text, and empty when that is something else. A view into
+/// the document.
+std::string_view ElementText(const xmlNode* element);
+
+/// The attribute of that name without namespace; empty when it is missing. The view is into the
+/// document, or into `store` when the text had to be put together.
+std::string_view AttributeText(const xmlNode* element, std::string_view name, std::string& store);
+
+/// Adds an element with the value in the form of its kind, one of `vantrel::typed`.
+template <class Kind>
+xmlNode* AddValue(xmlNode* parent, const char* element, const typename Kind::Value& value,
+                  std::string_view name = {})
+{
+    std::string text;
+    Kind::Append(text, value);
+    return AddTypedElement(parent, element, name, Kind::kType, text);
+}
+
+} // namespace vantrel
