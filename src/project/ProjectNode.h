@@ -5,6 +5,7 @@
 #include "project/NodeType.h"
 #include "xml/DsXml.h"
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -90,6 +91,18 @@ public:
     /// Appends `child` and owns it from now on. Hands out the child, or null when it is refused.
     CProjectNode* AdoptChild(std::unique_ptr<CProjectNode> child, bool assignID);
 
+    /// As `AddChild`, but at `position`, counted from 0; a position beyond the end appends. What this
+    /// node owns already it goes on owning.
+    bool InsertChild(CProjectNode* child, int position, bool assignID);
+
+    /// Moves a child to another position, both counted from 0. False for a position outside.
+    bool MoveChild(int from, int to);
+
+    /// Takes the children that `which` names out of the list, in one pass, and hands out those that
+    /// this node owned: they go with the result.
+    std::vector<std::unique_ptr<CProjectNode>> ReleaseChildren(
+        const std::function<bool(CProjectNode&)>& which);
+
     /// The child at `index`, counted from 0, or null.
     CProjectNode* GetChild(int index);
     int GetNumChildren() const { return static_cast<int>(m_children.size()); }
@@ -137,7 +150,7 @@ protected:
     const std::string& DocumentPath() const;
 
 private:
-    bool Append(CProjectNode* child, bool assignID);
+    bool Link(CProjectNode* child, std::size_t position, bool assignID);
     void Detach(CProjectNode* child);
     bool HangsBelow(const CProjectNode* node) const;
     void KeepDocumentPath(const _xmlDoc* doc);

@@ -5,6 +5,8 @@
 
 #include <set>
 #include <string>
+#include <utility>
+#include <vector>
 
 using std::string;
 
@@ -12,10 +14,18 @@ namespace vantrel {
 
 namespace {
 
+bool IsDataTypes(const xmlNs* ns)
+{
+    return ns->prefix && ns->href && std::string_view(Chars(ns->prefix)) == "dt" &&
+           std::string_view(Chars(ns->href)) == kDataTypesUri;
+}
+
 /// Copies a subtree with plain names, and notes which prefixes it uses without declaring them.
 class PlainCopier
 {
 public:
+    explicit PlainCopier(xmlDoc* target) : m_target(target) {}
+
     XmlNodePtr Copy(const xmlNode* node)
     {
         if (!IsElement(node))
@@ -29,7 +39,8 @@ public:
 private:
     XmlNodePtr CopyElement(const xmlNode* element)
     {
-        XmlNodePtr copy{ xmlNewNode(nullptr, XmlChars(PlainName(element->name, element->ns))) };
+        XmlNodePtr copy{ xmlNewDocNode(m_target, nullptr,
+                                       XmlChars(PlainName(element->name, element->ns)), nullptr) };
         if (!copy)
             return nullptr;
         for (const xmlNs* ns = element->nsDef; ns; ns = ns->next)
@@ -39,12 +50,31 @@ private:
             const string value{ ResolvedText(attribute->children, m_store) };
             (void)AddAttribute(copy.get(), PlainName(attribute->name, attribute->ns), value);
         }
-        for (const xmlNode* child = element->children; child; child = child->next) {
-            XmlNodePtr childCopy = IsElement(child) ? CopyElement(child) : CopyLeaf(child);
-            if (childCopy)
-                xmlAddChild(copy.get(), childCopy.release()); // merges adjacent texts
-        }
+        for (const xmlNode* child = element->children; child;)
+            child = CopyChild(child, copy.get());
         return copy;
+    }
+
+    /// Copies a child, texts and references that stand side by side as one. Returns the next one.
+    const xmlNode* CopyChild(const xmlNode* child, xmlNode* parent)
+    {
+        const xmlNode* next = child->next;
+        XmlNodePtr copy;
+        if (IsElement(child)) {
+            copy = CopyElement(child);
+        } else if (IsText(child) && !(next && IsText(next))) {
+            copy = CopyLeaf(child);
+        } else if (IsText(child)) {
+            string text;
+            for (next = child; next && IsText(next); next = next->next)
+                AppendText(text, *next);
+            copy = text.empty() ? nullptr : NewText(m_target, text.c_str());
+        } else {
+            copy = CopyLeaf(child);
+        }
+        if (copy)
+            xmlAddChild(parent, copy.release());
+        return next;
     }
 
     XmlNodePtr CopyLeaf(const xmlNode* node)
@@ -53,20 +83,40 @@ private:
             return nullptr;
         switch (node->type) {
         case XML_TEXT_NODE:
-            return XmlNodePtr{ xmlNewText(node->content) };
+            return NewText(m_target, node->content ? Chars(node->content) : "");
         case XML_CDATA_SECTION_NODE:
         case XML_COMMENT_NODE:
         case XML_PI_NODE:
-            return XmlNodePtr{ xmlCopyNode(const_cast<xmlNode*>(node), 0) };
+            return XmlNodePtr{ xmlDocCopyNode(const_cast<xmlNode*>(node), m_target, 0) };
         case XML_ENTITY_REF_NODE: {
-            xmlNode alone = *node;
-            alone.next = nullptr;
-            const string text{ ResolvedText(&alone, m_store) };
-            return XmlNodePtr{ text.empty() ? nullptr : xmlNewText(XmlChars(text.c_str())) };
+            string text;
+            AppendText(text, *node);
+            return text.empty() ? nullptr : NewText(m_target, text.c_str());
         }
         default:
             return nullptr;
         }
+    }
+
+    static bool IsText(const xmlNode* node)
+    {
+        return node->type == XML_TEXT_NODE || node->type == XML_ENTITY_REF_NODE;
+    }
+
+    /// A few references may unfold without bound, so what they add to one copy is limited.
+    void AppendText(string& text, const xmlNode& node)
+    {
+        if (node.type == XML_TEXT_NODE) {
+            text += node.content ? Chars(node.content) : "";
+            return;
+        }
+        xmlNode alone = node;
+        alone.next = nullptr;
+        const std::string_view unfolded = ResolvedText(&alone, m_store);
+        if (m_unfolded + unfolded.size() > kMostUnfolded)
+            return;
+        m_unfolded += unfolded.size();
+        text += unfolded;
     }
 
     /// The name as it stands in a file; the view is good until the next call.
@@ -74,7 +124,11 @@ private:
     {
         if (!ns)
             return Chars(name);
-        m_used.insert(ns);
+        if (ns != m_lastUsed) {
+            m_lastUsed = ns;
+            if (!IsDataTypes(ns) && m_known.insert(ns).second)
+                m_used.push_back(ns);
+        }
         if (!ns->prefix)
             return Chars(name);
         m_name = Chars(ns->prefix);
@@ -87,7 +141,7 @@ private:
     {
         const std::string_view uri = ns->href ? Chars(ns->href) : "";
         m_declared.insert(ns);
-        if (uri == kDataTypesUri && ns->prefix && std::string_view(Chars(ns->prefix)) == "dt")
+        if (IsDataTypes(ns))
             return; // the root of every file declares it
         string name = "xmlns";
         if (ns->prefix)
@@ -105,29 +159,208 @@ private:
         }
     }
 
-    std::set<const xmlNs*> m_used;
+    xmlDoc* m_target;
+    const xmlNs* m_lastUsed = nullptr;
+    std::vector<const xmlNs*> m_used; ///< in the order of their first use
+    std::set<const xmlNs*> m_known;   ///< the same
     std::set<const xmlNs*> m_declared;
+    static constexpr std::size_t kMostUnfolded = 1'000'000;
+    std::size_t m_unfolded = 0;
     string m_name;
     string m_store;
 };
 
+/// Stands in `_private` of a document to which subtrees may be lent. Its `psvi`, which nothing else
+/// uses in a tree, is the last subtree that was lent, and `_private` of that one's own document the
+/// subtree before.
+constexpr char kBorrower = 0;
+
+/// The same for a document that is given away. The two differ by address.
+constexpr char kGift = 0;
+
+/// The node behind `node` in document order below `top`, or null.
+xmlNode* NextBelow(const xmlNode* top, xmlNode* node)
+{
+    if (IsElement(node) && node->children)
+        return node->children;
+    while (node != top && !node->next)
+        node = node->parent;
+    return node == top ? nullptr : node->next;
+}
+
+/// True for an attribute that needs nothing but another name to stand in another document.
+bool IsMovable(const xmlAttr& attribute)
+{
+    const xmlNode* value = attribute.children;
+    const bool plainValue = !value || (value->type == XML_TEXT_NODE && !value->next);
+    return plainValue && attribute.atype != XML_ATTRIBUTE_ID &&
+           (!attribute.ns || IsDataTypes(attribute.ns));
+}
+
+bool IsMovable(const xmlNode& node)
+{
+    if (node.type != XML_ELEMENT_NODE)
+        return node.type == XML_TEXT_NODE || node.type == XML_CDATA_SECTION_NODE ||
+               node.type == XML_COMMENT_NODE;
+    if (node.ns || node.nsDef)
+        return false;
+    for (const xmlAttr* attribute = node.properties; attribute; attribute = attribute->next) {
+        if (!IsMovable(*attribute))
+            return false;
+    }
+    return true;
+}
+
+bool IsMovableTree(xmlNode* top)
+{
+    for (xmlNode* node = top; node; node = NextBelow(top, node)) {
+        if (!IsMovable(*node))
+            return false;
+    }
+    return true;
+}
+
+/// Gives an attribute of the namespace "dt" the plain name that it has in the file.
+void MakeNamePlain(xmlAttr& attribute, xmlDict* dict)
+{
+    xmlChar* old = const_cast<xmlChar*>(attribute.name);
+    if (dict)
+        attribute.name = xmlDictQLookup(dict, attribute.ns->prefix, old);
+    else
+        attribute.name = xmlBuildQName(old, attribute.ns->prefix, nullptr, 0);
+    if (!dict || !xmlDictOwns(dict, old))
+        const XmlTextPtr released{ old };
+    attribute.ns = nullptr;
+}
+
+void MoveToDocument(xmlNode& node, xmlDoc* doc)
+{
+    node.doc = doc;
+    if (node.type != XML_ELEMENT_NODE)
+        return;
+    for (xmlAttr* attribute = node.properties; attribute; attribute = attribute->next) {
+        attribute->doc = doc;
+        if (attribute->children)
+            attribute->children->doc = doc;
+        if (attribute->ns)
+            MakeNamePlain(*attribute, doc->dict);
+    }
+}
+
+/// An empty document that shares the dictionary of `source`.
+XmlDocPtr MakeHome(const xmlDoc* source)
+{
+    XmlDocPtr home{ xmlNewDoc(XmlChars("1.0")) };
+    if (!home)
+        return nullptr;
+    // Without an encoding the characters of attributes would be written as references.
+    home->encoding = xmlStrdup(XmlChars("UTF-8"));
+    home->dict = source->dict;
+    if (home->dict)
+        xmlDictReference(home->dict);
+    return home;
+}
+
+xmlNode* AsParent(xmlDoc* doc)
+{
+    return reinterpret_cast<xmlNode*>(doc); // as libxml2 does: the first fields are the same
+}
+
+bool IsRootOfDocument(const xmlNode* node)
+{
+    return node->parent && node->parent->type == XML_DOCUMENT_NODE;
+}
+
 } // namespace
+
+void ReleaseKeptXml::operator()(xmlNode* node) const
+{
+    const XmlDocPtr home{ IsRootOfDocument(node) ? node->doc : nullptr };
+    const XmlNodePtr alone{ home ? nullptr : node };
+}
 
 XmlNodePtr CopyXml(const xmlNode* node)
 {
-    return PlainCopier().Copy(node);
+    return PlainCopier(nullptr).Copy(node);
 }
 
-Status AppendXmlCopy(xmlNode* parent, const xmlNode* kept)
+KeptXmlPtr KeepXml(xmlNode* node)
 {
-    XmlNodePtr copy{ xmlDocCopyNode(const_cast<xmlNode*>(kept), parent ? parent->doc : nullptr,
-                                    1) };
-    if (!parent || !copy)
+    const bool isGiven = node && node->doc && node->doc->_private == &kGift;
+    return isGiven ? TakeXml(node) : KeptXmlPtr{ CopyXml(node).release() };
+}
+
+KeptXmlPtr TakeXml(xmlNode* node)
+{
+    if (!node)
+        return nullptr;
+    XmlDocPtr home = node->doc && IsMovableTree(node) ? MakeHome(node->doc) : nullptr;
+    if (!home) {
+        KeptXmlPtr copy{ CopyXml(node).release() }; // needs the declarations around the node
+        xmlUnlinkNode(node);
+        const XmlNodePtr original{ node };
+        return copy;
+    }
+    xmlUnlinkNode(node);
+    for (xmlNode* moved = node; moved; moved = NextBelow(node, moved))
+        MoveToDocument(*moved, home.get());
+    home->children = home->last = node;
+    node->parent = AsParent(home.release());
+    return KeptXmlPtr{ node };
+}
+
+Status AppendXmlCopy(xmlNode* parent, const xmlNode* node)
+{
+    if (!parent)
         return status::kNullPointer;
-    if (!xmlAddChild(parent, copy.get()))
-        return status::kFailure;
-    (void)copy.release(); // the tree's from here on
+    XmlNodePtr copy = PlainCopier(parent->doc).Copy(node);
+    if (!copy)
+        return status::kNullPointer;
+    xmlAddChild(parent, copy.release());
     return status::kOk;
+}
+
+Status AppendKeptXml(xmlNode* parent, const KeptXmlPtr& kept)
+{
+    const bool mayBorrow = parent && parent->doc && parent->doc->_private == &kBorrower;
+    if (!mayBorrow || !kept || !IsRootOfDocument(kept.get()))
+        return AppendXmlCopy(parent, kept.get());
+    // Linked by hand: `xmlAddChild` would move the whole subtree to the other document.
+    kept->parent = parent;
+    kept->prev = parent->last;
+    (parent->last ? parent->last->next : parent->children) = kept.get();
+    parent->last = kept.get();
+    kept->doc->_private = std::exchange(parent->doc->psvi, kept.get());
+    return status::kOk;
+}
+
+XmlGift::XmlGift(xmlDoc* doc) : m_doc(doc)
+{
+    m_doc->_private = const_cast<char*>(&kGift);
+}
+
+XmlGift::~XmlGift()
+{
+    m_doc->_private = nullptr;
+}
+
+XmlLoan::XmlLoan(xmlDoc* doc) : m_doc(doc)
+{
+    m_doc->_private = const_cast<char*>(&kBorrower);
+    m_doc->psvi = nullptr;
+    if (!m_doc->dict)
+        m_doc->dict = xmlDictCreate(); // names and short texts are stored once
+}
+
+XmlLoan::~XmlLoan()
+{
+    while (m_doc->psvi) {
+        xmlNode* lent = static_cast<xmlNode*>(m_doc->psvi);
+        m_doc->psvi = std::exchange(lent->doc->_private, nullptr);
+        xmlUnlinkNode(lent);
+        lent->parent = AsParent(lent->doc);
+    }
+    m_doc->_private = nullptr;
 }
 
 } // namespace vantrel
