@@ -271,11 +271,10 @@ INSTANTIATE_TEST_SUITE_P(
                      "</subObject></effect><effect><subObject><startOffset>nan</startOffset>"
                      "<endOffset>-inf</endOffset></subObject></effect></effects></parentObject>"
                      "</clip></panels>" },
-        HostileCase{
-            "SameLayerTwice",
-            "<panels><clip><parentObject><effects><layer key='1'><effect/><effect/></layer>"
-            "<layer key='1'><effect><effectInfo><data><d/></data></effectInfo></effect>"
-            "</layer><layer key='9'/></effects></parentObject></clip></panels>" },
+        HostileCase{ "SameLayerTwice",
+                     "<panels><clip><parentObject><effects><layer key='1'><effect/></layer>"
+                     "<layer key='1'><effect><effectInfo><data><d/></data></effectInfo></effect>"
+                     "</layer><layer key='9'/></effects></parentObject></clip></panels>" },
         HostileCase{
             "EnvelopeAtNoTime",
             "<production><parentObject><audioList><audio><audioInfo><mixLevels>"
