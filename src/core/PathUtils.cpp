@@ -47,6 +47,11 @@ bool GetContentPath(string* path)
     return false;
 }
 
+bool HasString(string text, string part)
+{
+    return !part.empty() && text.find(part) != string::npos;
+}
+
 bool ResolveFilePath(string* path)
 {
     if (!path)

@@ -20,6 +20,9 @@ VANTREL_API bool GetDirectoryAndFileName(std::string path, std::string* director
 /// without that stays whole. Always gives false.
 VANTREL_API bool GetContentPath(std::string* path);
 
+/// True when `part` occurs in `text`; false when either is empty.
+VANTREL_API bool HasString(std::string text, std::string part);
+
 /// Makes a stored file name a path of this machine: "%CONTENT%" at its head goes, also with one
 /// character before it, and then with the one behind it too; each backslash becomes "/". Always
 /// gives false.

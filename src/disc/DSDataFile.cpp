@@ -21,6 +21,20 @@ CDSDataFile::CDSDataFile() : CProjectNode(eNodeFile, kFormOf<CDSDataFile, &CDSDa
 
 CDSDataFile::~CDSDataFile() = default;
 
+void CDSDataFile::CopyValues(const CDSDataFile& other)
+{
+    m_sourcePath = other.m_sourcePath;
+    m_destPath = other.m_destPath;
+    m_tag = other.m_tag;
+    m_useCount = other.m_useCount;
+}
+
+bool CDSDataFile::Matches(const string* source, const string* dest, unsigned long tag) const
+{
+    return (!source || *source == m_sourcePath) && (!dest || *dest == m_destPath) &&
+           (tag == 0 || tag == m_tag);
+}
+
 Status CDSDataFile::IncrementUseCount()
 {
     ++m_useCount;

@@ -35,6 +35,12 @@ public:
     Status get_Tag(unsigned long* out) const { return vantrel::Give(out, m_tag); }
     Status put_Tag(unsigned long value) { return vantrel::Take(m_tag, value); }
 
+    /// Takes over all that `other` is but its ID and its place in a tree.
+    void CopyValues(const CDSDataFile& other);
+
+    /// True when the file has the paths that aren't null and the tag that isn't 0.
+    bool Matches(const std::string* source, const std::string* dest, unsigned long tag) const;
+
     /// Counts one more user of the file. The count is not in the file.
     Status IncrementUseCount();
 

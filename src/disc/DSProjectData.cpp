@@ -3,6 +3,8 @@
 #include "core/Version.h"
 #include "disc/DSCommandList.h"
 #include "disc/DSEncodingParams.h"
+#include "disc/MenuTemplates.h"
+#include "disc/ProjectChildren.h"
 #include "project/DSList.h"
 #include "project/NodeForm.h"
 #include "project/XMLPersistor.h"
@@ -11,18 +13,6 @@
 using std::map;
 using std::string;
 using namespace vantrel;
-
-namespace {
-
-/// Positions of the fixed children.
-enum : int
-{
-    kTitles,
-    kMenus,
-    kDataFiles
-};
-
-} // namespace
 
 // The attributes of "Project". The root has no ID of its own: 0 is written and none is read.
 AttributeTable<CDSProjectData> CDSProjectData::Attributes()
@@ -107,7 +97,13 @@ Status CDSProjectData::LoadXML(IXMLDOMNode* root)
 {
     if (!root)
         return status::kNoProjectNode;
-    return CDSXMLDataLoader(this).LoadProject(root);
+    const Status cleared = _Clear();
+    if (Failed(cleared))
+        return cleared;
+    m_templates = std::make_unique<MenuTemplates>();
+    const Status loaded = CDSXMLDataLoader(this).LoadProject(root);
+    m_templates.reset();
+    return loaded;
 }
 
 Status CDSProjectData::SaveXML(IXMLDOMNode* parent)

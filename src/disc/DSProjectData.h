@@ -4,12 +4,21 @@
 #include "project/DiscEnums.h"
 #include "project/ProjectNode.h"
 
+#include <functional>
+#include <memory>
+#include <set>
 #include <string>
+#include <vector>
+
+class CDSDataFile;
+class CDSMenu;
+class CDSTitle;
 
 namespace vantrel {
 template <class Node>
 class AttributeTable;
-}
+class MenuTemplates;
+} // namespace vantrel
 
 /// The root of a disc project: the settings of the whole disc, and five fixed children at positions
 /// that are part of the model: 0 "Titles", 1 "Menus", 2 "DataFiles", 3 "Commands", 4 "Encoding".
@@ -133,10 +142,60 @@ public:
     Status get_DataFileCount(long* out);
     /// @}
 
+    /// @name Titles, menus and data files by number
+    /// Numbers count from 1. A number outside gives `status::kNoSuchObject`, a null pointer that is
+    /// needed `status::kNullPointer`; nothing is changed then.
+    ///
+    /// An added node stays the caller's, or whose it was; one without an ID gets one. Its place is
+    /// among those that the list has: 0 and count + 1 append. A node is removed by pointer or, when
+    /// that is null, by ID; it is detached, and one that the library owns lives until the project
+    /// goes, so that no pointer dangles.
+    /// @{
+    Status GetTitle(long index, CDSTitle** out); ///< outside: 0, and a null title
+    Status AddTitle(long index, CDSTitle* title);
+    Status RemoveTitle(long id, CDSTitle* title);
+    Status MoveTitle(long from, long to);
+
+    Status GetMenu(long index, CDSMenu** out);
+    Status AddMenu(long index, CDSMenu* menu);
+    Status InsertMenu(long index, CDSMenu* menu); ///< the same
+    /// Of several menus with one ID a template goes first.
+    Status RemoveMenu(long id, CDSMenu* menu);
+    /// `RemoveMenu` for each of these IDs, in one pass over the list.
+    Status RemoveMenus(const std::set<long>& ids);
+    Status MoveMenu(long from, long to);
+
+    /// The first menu whose whole tag is `type`. False, with `out` untouched, when there is none, and
+    /// for a null `out`.
+    bool GetMenuAsType(MenuTypes type, CDSMenu** out);
+    bool GetMainTempMenu(CDSMenu** out);
+    bool GetChapTempMenu(CDSMenu** out);
+
+    /// Copies the values of a data file, without its ID, into `out`.
+    Status GetDataFile(long index, CDSDataFile* out);
+    Status AddDataFile(long index, CDSDataFile* file);
+    Status RemoveDataFile(long id, CDSDataFile* file);
+    Status MoveDataFile(long from, long to);
+    /// Copies the values of the first data file that matches all that is given: a null path and a tag
+    /// of 0 match every file. 1, with `out` untouched, when there is none.
+    Status FindDataFile(std::string* source, std::string* dest, unsigned long tag,
+                        CDSDataFile* out);
+    /// Removes the first data file of that source, and copies its values to `out` if that isn't null.
+    Status RemoveDataFileBySource(std::string* source, CDSDataFile* out);
+
+    /// The child of `list` at `position`, counted from 0, as a `T`; null when it is none.
+    template <class T>
+    static Status GetObject(CProjectNode* list, long position, T** out);
+
+    /// Takes titles, menus, data files and the project's commands out and releases what the library
+    /// owns of them. The settings stay.
+    Status _Clear();
+    /// @}
+
     /// @name File form
     /// @{
-    /// Reads the project from the elements at and below `root`, wherever "Project" stands there.
-    /// Null gives `status::kNoProjectNode`.
+    /// Replaces titles, menus, data files and commands, and takes over the settings, from the elements
+    /// at and below `root`, wherever "Project" stands there. Null gives `status::kNoProjectNode`.
     Status LoadXML(IXMLDOMNode* root);
 
     /// Writes "Project" with the whole tree as the last child of `parent`. Null gives
@@ -148,8 +207,15 @@ public:
     /// @}
 
 private:
+    friend CDSMenu; // shares the templates
+
     static vantrel::AttributeTable<CDSProjectData> Attributes();
     Status CountOf(int position, long* out);
+    CProjectNode* MenuToRemove(long id);
+    void Remove(CProjectNode& list, const std::function<bool(CProjectNode&)>& which);
+    Status AddTo(int position, long index, CProjectNode* node);
+    Status RemoveFrom(int position, long id, CProjectNode* node);
+    Status MoveIn(int position, long from, long to);
 
     std::string m_label;
     std::string m_displayName; ///< "name"
@@ -170,4 +236,18 @@ private:
     std::string m_imagePath;
     std::string m_targetDrive;
     long m_projectSize = 0;
+    std::vector<std::unique_ptr<CProjectNode>> m_removed; ///< detached, but not to dangle
+    std::unique_ptr<vantrel::MenuTemplates> m_templates;  ///< only during a load
 };
+
+template <class T>
+Status CDSProjectData::GetObject(CProjectNode* list, long position, T** out)
+{
+    if (!list)
+        return status::kNullPointer;
+    if (position < 0 || position >= list->GetNumChildren())
+        return status::kNoSuchObject;
+    if (out)
+        *out = dynamic_cast<T*>(list->GetChild(static_cast<int>(position)));
+    return status::kOk;
+}

@@ -3,6 +3,7 @@
 #include "disc/DSCommandList.h"
 #include "disc/DSEncodingParams.h"
 #include "project/NodeForm.h"
+#include "storyboard/QZBaseSBD.h"
 
 using std::map;
 using std::string;
@@ -38,6 +39,36 @@ void CDSTitle::MakeMissingChildren(bool assignIDs)
         AdoptChild(std::make_unique<CDSCommandList>(), assignIDs);
     if (!FindChildByType(eNodeEncoding, ""))
         AdoptChild(std::make_unique<CDSEncodingParams>(), assignIDs);
+}
+
+Status CDSTitle::CreateProduction()
+{
+    if (m_production)
+        return status::kNothingDone;
+    m_production = std::make_unique<CQZBaseSBD>();
+    (void)m_production->NewProduction(); // a fresh storyboard has nothing to fail on
+    return status::kOk;
+}
+
+Status CDSTitle::ReleaseProduction()
+{
+    if (!m_production)
+        return status::kNothingDone;
+    m_production.reset();
+    return status::kOk;
+}
+
+Status CDSTitle::FinalRelease()
+{
+    return ReleaseProduction();
+}
+
+Status CDSTitle::GetProduction(CQZBaseSBD** out)
+{
+    if (!out)
+        return status::kNullPointer;
+    *out = m_production.get();
+    return m_production ? status::kOk : status::kNothingDone;
 }
 
 Status CDSTitle::put_DiscIndex(long value)

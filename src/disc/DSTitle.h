@@ -3,7 +3,10 @@
 #include "core/Property.h"
 #include "project/ProjectNode.h"
 
+#include <memory>
 #include <string>
+
+class CQZBaseSBD;
 
 namespace vantrel {
 template <class Node>
@@ -26,6 +29,19 @@ public:
 
     /// Makes the two fixed children that the title doesn't have yet.
     Status FinalConstruct();
+
+    /// @name Storyboard
+    /// The title owns it. A new title has none; a load makes one when the file holds one.
+    /// @{
+    /// Makes an empty storyboard. 1 when the title has one.
+    Status CreateProduction();
+    /// 1 when the title has none.
+    Status ReleaseProduction();
+    /// Releases the storyboard; the destructor does so too.
+    Status FinalRelease();
+    /// 1, with null in `*out`, when the title has none.
+    Status GetProduction(CQZBaseSBD** out);
+    /// @}
 
     Status get_ID(long* out) const { return vantrel::Give(out, GetID()); }
 
@@ -74,4 +90,5 @@ private:
     long m_stillWaitTime = 5; ///< "stillWaitSecs"
     unsigned long m_vobDuration = 0;
     double m_vobSize = 0.0;
+    std::unique_ptr<CQZBaseSBD> m_production;
 };

@@ -31,6 +31,7 @@ struct AttributeRow
     Condition condition = nullptr;
     const char* absent = nullptr; ///< read in place of a missing attribute
     Report missing = nullptr;     ///< ends the reading at a missing or empty attribute
+    const char* asked = nullptr;  ///< written in place of the value for the native form
 
     constexpr AttributeRow ReadOnly() const
     {
@@ -58,6 +59,13 @@ struct AttributeRow
         row.absent = text;
         return row;
     }
+    /// Written as `text` when the native form is asked for.
+    constexpr AttributeRow WhenNativeAsked(const char* text) const
+    {
+        AttributeRow row = *this;
+        row.asked = text;
+        return row;
+    }
     /// A missing or empty attribute is reported, and neither it nor any row behind it is read.
     constexpr AttributeRow Required(Report report) const
     {
@@ -77,11 +85,41 @@ struct AttributeRows
     std::array<AttributeName, Count> byName;
 };
 
-template <class Node, class... Row>
-consteval auto Rows(Row... row)
+/// Rows that several tables have in common.
+template <class Node, std::size_t Count>
+using RowGroup = std::array<AttributeRow<Node>, Count>;
+
+template <class Node>
+constexpr RowGroup<Node, 1> AsGroup(const AttributeRow<Node>& row)
 {
-    AttributeRows<Node, sizeof...(Row)> table{ { row... }, {} };
-    for (std::size_t i = 0; i < sizeof...(Row); ++i)
+    return { row };
+}
+template <class Node, std::size_t Count>
+constexpr RowGroup<Node, Count> AsGroup(const RowGroup<Node, Count>& group)
+{
+    return group;
+}
+
+/// One group of these rows and groups.
+template <class Node, class... Part>
+constexpr auto Group(const Part&... part)
+{
+    RowGroup<Node, (AsGroup(Part{}).size() + ...)> rows{};
+    auto* next = rows.data();
+    const auto put = [&next](const auto& group) {
+        next = std::copy(group.begin(), group.end(), next);
+    };
+    (put(AsGroup(part)), ...);
+    return rows;
+}
+
+/// The table of these rows and groups of rows.
+template <class Node, class... Part>
+consteval auto Rows(Part... part)
+{
+    const auto rows = Group<Node>(part...);
+    AttributeRows<Node, rows.size()> table{ rows, {} };
+    for (std::size_t i = 0; i < table.rows.size(); ++i)
         table.byName[i] = { table.rows[i].name, static_cast<std::uint8_t>(i) };
     std::sort(table.byName.begin(), table.byName.end(),
               [](const auto& a, const auto& b) { return a.name < b.name; });
@@ -111,8 +149,7 @@ public:
             if (!IsWritten(row, node, native))
                 continue;
             std::string& text = attributes[row.name];
-            text.clear();
-            row.write(node, text);
+            WriteText(row, node, native, text);
         }
     }
 
@@ -124,8 +161,7 @@ public:
             const AttributeRow<Node>& row = m_rows[name.row];
             if (!IsWritten(row, node, native))
                 continue;
-            text.clear();
-            row.write(node, text);
+            WriteText(row, node, native, text);
             const Status added = AddReportedAttribute(element, row.name, text);
             if (Failed(added))
                 return added;
@@ -165,13 +201,24 @@ private:
         return row.write && (native || !row.condition || row.condition(node));
     }
 
+    static void WriteText(const AttributeRow<Node>& row, const Node& node, bool native,
+                          std::string& text)
+    {
+        text.clear();
+        if (native && row.asked)
+            text = row.asked;
+        else
+            row.write(node, text);
+    }
+
     const AttributeRow<Node>* m_rows;
     const AttributeName* m_names;
     std::size_t m_count;
     Finish m_finish; ///< runs when all rows have been read; may be null
 };
 
-/// Makers of rows, one a form of value. `Field` is a pointer to a member of the node.
+/// Makers of rows, one a form of value. `Field` is a pointer to a member of the node, or of a base
+/// of it, and then the node's class is named.
 namespace attribute {
 
 template <class>
@@ -222,10 +269,9 @@ constexpr AttributeRow<Node> Constant(const char* name)
 }
 
 /// Decimal text of an integer.
-template <auto Field>
-constexpr AttributeRow<NodeOf<Field>> Decimal(const char* name)
+template <auto Field, class Node = NodeOf<Field>>
+constexpr AttributeRow<Node> Decimal(const char* name)
 {
-    using Node = NodeOf<Field>;
     return { name, [](const Node& node, std::string& text) { AppendDecimal(text, node.*Field); },
              [](Node& node, std::string_view text) {
                  node.*Field = FromDecimal<TypeOf<Field>>(text);
@@ -233,10 +279,9 @@ constexpr AttributeRow<NodeOf<Field>> Decimal(const char* name)
 }
 
 /// Decimal text of an integer inside a structure of the node.
-template <auto Field, auto Member>
-constexpr AttributeRow<NodeOf<Field>> DecimalIn(const char* name)
+template <auto Field, auto Member, class Node = NodeOf<Field>>
+constexpr AttributeRow<Node> DecimalIn(const char* name)
 {
-    using Node = NodeOf<Field>;
     return { name,
              [](const Node& node, std::string& text) { AppendDecimal(text, node.*Field.*Member); },
              [](Node& node, std::string_view text) {
@@ -245,10 +290,9 @@ constexpr AttributeRow<NodeOf<Field>> DecimalIn(const char* name)
 }
 
 /// Floating-point text with six significant digits.
-template <auto Field>
-constexpr AttributeRow<NodeOf<Field>> Real(const char* name)
+template <auto Field, class Node = NodeOf<Field>>
+constexpr AttributeRow<Node> Real(const char* name)
 {
-    using Node = NodeOf<Field>;
     return { name,
              [](const Node& node, std::string& text) {
                  AppendNumber(text, static_cast<double>(node.*Field));
@@ -259,10 +303,9 @@ constexpr AttributeRow<NodeOf<Field>> Real(const char* name)
 }
 
 /// The same inside a structure of the node.
-template <auto Field, auto Member>
-constexpr AttributeRow<NodeOf<Field>> RealIn(const char* name)
+template <auto Field, auto Member, class Node = NodeOf<Field>>
+constexpr AttributeRow<Node> RealIn(const char* name)
 {
-    using Node = NodeOf<Field>;
     return { name,
              [](const Node& node, std::string& text) {
                  AppendNumber(text, static_cast<double>(node.*Field.*Member));
@@ -273,28 +316,25 @@ constexpr AttributeRow<NodeOf<Field>> RealIn(const char* name)
 }
 
 /// "1" or "0"; any text but "0" is true.
-template <auto Field>
-constexpr AttributeRow<NodeOf<Field>> Bool(const char* name)
+template <auto Field, class Node = NodeOf<Field>>
+constexpr AttributeRow<Node> Bool(const char* name)
 {
-    using Node = NodeOf<Field>;
     return { name, [](const Node& node, std::string& text) { text += node.*Field ? '1' : '0'; },
              [](Node& node, std::string_view text) { node.*Field = text != "0"; } };
 }
 
 /// The string itself.
-template <auto Field>
-constexpr AttributeRow<NodeOf<Field>> Text(const char* name)
+template <auto Field, class Node = NodeOf<Field>>
+constexpr AttributeRow<Node> Text(const char* name)
 {
-    using Node = NodeOf<Field>;
     return { name, [](const Node& node, std::string& text) { text += node.*Field; },
              [](Node& node, std::string_view text) { node.*Field = text; } };
 }
 
 /// A number with its name in parentheses; the number alone is read.
-template <auto Field>
-constexpr AttributeRow<NodeOf<Field>> Enum(const char* name)
+template <auto Field, class Node = NodeOf<Field>>
+constexpr AttributeRow<Node> Enum(const char* name)
 {
-    using Node = NodeOf<Field>;
     return { name, [](const Node& node, std::string& text) { text += FormatEnum(node.*Field); },
              [](Node& node, std::string_view text) {
                  node.*Field = static_cast<TypeOf<Field>>(ParseLong(text));
@@ -302,10 +342,9 @@ constexpr AttributeRow<NodeOf<Field>> Enum(const char* name)
 }
 
 /// A bit set with the names of its bits in parentheses; the number alone is read.
-template <auto Field, std::string (*Format)(unsigned long)>
-constexpr AttributeRow<NodeOf<Field>> Flags(const char* name)
+template <auto Field, std::string (*Format)(unsigned long), class Node = NodeOf<Field>>
+constexpr AttributeRow<Node> Flags(const char* name)
 {
-    using Node = NodeOf<Field>;
     return { name, [](const Node& node, std::string& text) { text += Format(node.*Field); },
              [](Node& node, std::string_view text) {
                  node.*Field = static_cast<TypeOf<Field>>(ParseLong(text));

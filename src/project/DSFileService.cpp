@@ -4,6 +4,7 @@
 #include "core/PathUtils.h"
 #include "core/Version.h"
 #include "disc/DSProjectData.h"
+#include "xml/KeptXml.h"
 #include "xml/XmlFile.h"
 #include "xml/XmlPtr.h"
 #include "xml/XmlValue.h"
@@ -22,7 +23,8 @@ XmlDocPtr MakeProjectDocument()
     XmlDocPtr doc{ xmlNewDoc(XmlChars("1.0")) };
     if (!doc)
         return nullptr;
-    doc->dict = xmlDictCreate(); // a few names stand in it many times; without memory they're copied
+    // A few names stand in it many times; without memory for this they are copied.
+    doc->dict = xmlDictCreate();
     xmlNode* root = xmlNewDocNode(doc.get(), nullptr, XmlChars("Root"), nullptr);
     if (!root)
         return nullptr;
@@ -68,6 +70,7 @@ Status CDSFileService::Save(string path, CDSProjectData* project, FileWriter wri
     string directory;
     (void)Utils::GetDirectoryAndFileName(path, &directory, nullptr, nullptr);
     (void)project->put_ProjectDirectory(directory);
+    (void)RemoveUnusedTemplates(project); // what stays is saved
     return WriteFile(path, project, write);
 }
 
@@ -86,6 +89,7 @@ Status CDSFileService::WriteFile(const string& path, CDSProjectData* project, Fi
     string name;
     (void)Utils::GetDirectoryAndFileName(path, nullptr, &name, nullptr);
     (void)project->put_DisplayName(name);
+    const XmlLoan loan(doc.get());
     const Status built = WriteProjectXML(AsNode(xmlDocGetRootElement(doc.get())), project);
     if (Failed(built))
         return built;
@@ -105,6 +109,7 @@ Status CDSFileService::WriteProjectXML(IXMLDOMNode* root, CDSProjectData* projec
     xmlNode* productions = xmlNewDocNode(root->doc, nullptr, XmlChars("Productions"), nullptr);
     if (!productions || !xmlAddChild(root, productions))
         return status::kNullPointer;
+    (void)PersistStoryboards(project, productions, true); // a bad one spoils no more than itself
     return status::kOk;
 }
 
@@ -124,6 +129,7 @@ Status CDSFileService::LoadProject(const char* path, CDSProjectData* project)
     }
     if (ReadVersion(AsElement(root)) < kOldestFileVersion)
         return status::kOldVersion;
+    const XmlGift gift(doc.get());
     (void)ReadProjectXML(AsNode(root), project); // the version has passed: what can be read is read
     return status::kOk;
 }
@@ -143,5 +149,11 @@ Status CDSFileService::ReadProjectXML(IXMLDOMNode* root, CDSProjectData* project
     if (!project)
         return status::kNullPointer;
     const Status loaded = project->LoadXML(root);
-    return Failed(loaded) ? loaded : status::kNothingDone;
+    if (Failed(loaded))
+        return loaded;
+    xmlNode* productions = FindChildElement(root, "Productions");
+    if (!productions)
+        return status::kNothingDone;
+    const Status read = PersistStoryboards(project, productions, false);
+    return Failed(read) ? read : status::kNothingDone;
 }

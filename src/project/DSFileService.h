@@ -6,7 +6,10 @@
 
 #include <string>
 
+class CDSMenu;
 class CDSProjectData;
+class CDSTitle;
+class CQZBaseSBD;
 
 /// Turns a file path and a project into a project on disk, and back.
 ///
@@ -18,7 +21,8 @@ class VANTREL_API CDSFileService
 public:
     /// Saves a project over the file at `path`, in place; a "file::" in front of it is cut off.
     ///
-    /// Sets the project's directory and display name, and its label if that is empty. The new content
+    /// Takes templates that nothing uses out of the project (`RemoveUnusedTemplates`), and sets the
+    /// project's directory and display name, and its label if that is empty. The new content
     /// is complete in memory and room for it reserved before the file is touched, so that a file that
     /// can't be opened and a full disk leave the old one as it was. Gives `status::kNullPointer` for a
     /// null project, `status::kBadArgument` for an empty path and `status::kUnwritableFile` when the
@@ -47,11 +51,41 @@ public:
     /// The "Version" of the file's "Project" element, 0 if it has none.
     unsigned long ReadVersion(IXMLDOMElement* root);
 
-    /// Reads the elements of a file into the project. Gives 1 when they were read.
+    /// Reads the elements of a file and the storyboards into the project. Gives 1 when they were read.
     Status ReadProjectXML(IXMLDOMNode* root, CDSProjectData* project);
+
+    /// Takes out the template menus that no ordinary menu was made from, directly or through a chain
+    /// of templates. A project without titles whose menus use no template keeps them all. Gives 0, a
+    /// null project `status::kNullPointer`.
+    Status RemoveUnusedTemplates(CDSProjectData* project);
+
+    /// @name Storyboards in the file
+    /// "Productions" has one element for each title and ordinary menu with a storyboard, named after
+    /// the node's ID. A native menu's storyboard comes from its template.
+    /// @{
+    /// Writes or reads the storyboards of the titles, then of the menus. A title gets a storyboard
+    /// when there is an element for it. What fails in one spoils no more than that one: the result is
+    /// 0, and `status::kNullPointer` for a null argument.
+    Status PersistStoryboards(CDSProjectData* project, _xmlNode* productions, bool save);
+
+    /// Writes or reads one storyboard as the child `name` of `productions`. Gives 0, and does nothing
+    /// where there is no storyboard.
+    Status PersistProductionXML(_xmlNode* productions, CQZBaseSBD* storyboard, std::string name,
+                                bool save);
+
+    /// The node's storyboard, or null.
+    CQZBaseSBD* GetProductionObj(CDSTitle* title);
+    CQZBaseSBD* GetProductionObj(CDSMenu* menu);
+
+    /// The name of the element for a `CProjectNode`: "Title" or "Menu", and the ID with at least four
+    /// digits.
+    std::string GetProductionNodeName(void* node);
+    /// @}
 
 private:
     using FileWriter = Status (*)(const std::string& path, std::string_view bytes);
     Status Save(std::string path, CDSProjectData* project, FileWriter write);
     Status WriteFile(const std::string& path, CDSProjectData* project, FileWriter write);
+    void WriteStoryboards(CDSProjectData& project, _xmlNode* productions);
+    void ReadStoryboards(CDSProjectData& project, _xmlNode* productions);
 };

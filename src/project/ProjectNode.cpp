@@ -1,8 +1,10 @@
 #include "project/ProjectNode.h"
 
+#include "core/PathUtils.h"
 #include "core/Property.h"
 #include "project/AttributeSlots.h"
 #include "project/NodeForm.h"
+#include "project/ResourceLoader.h"
 #include "xml/XmlValue.h"
 
 #include <algorithm>
@@ -76,6 +78,26 @@ Status CProjectNode::ReadXML(IXMLDOMNode* node)
     return ReadAttributesByMap(node);
 }
 
+bool CProjectNode::ParseResString(string source, string* out)
+{
+    if (DocumentPath().empty())
+        return false;
+    if (!m_pResLoader)
+        m_pResLoader = std::make_unique<CResourceLoader>();
+    constexpr std::string_view table = "ThemeStrings.xml";
+    string file;
+    file.reserve(DocumentPath().size() + table.size());
+    file = DocumentPath();
+    (void)Utils::GetContentPath(&file); // a path without a content folder has no table beside it
+    file += table;
+    (void)m_pResLoader->InitWithXmlFile(file.c_str()); // tables that came earlier may still serve
+
+    const string* text = m_pResLoader->FindText(source);
+    if (out)
+        *out = text ? *text : source;
+    return text != nullptr;
+}
+
 Status CProjectNode::ReadAttributesByMap(const _xmlNode* element)
 {
     map<string, string> attributes;
@@ -120,29 +142,64 @@ Status CProjectNode::WriteNodeAttributes(IXMLDOMNode* node, const map<string, st
 
 bool CProjectNode::AddChild(CProjectNode* child, bool assignID)
 {
-    return child && Append(child, assignID);
+    return child && Link(child, m_children.size(), assignID);
+}
+
+bool CProjectNode::InsertChild(CProjectNode* child, int position, bool assignID)
+{
+    return child && position >= 0 && Link(child, static_cast<std::size_t>(position), assignID);
 }
 
 CProjectNode* CProjectNode::AdoptChild(std::unique_ptr<CProjectNode> child, bool assignID)
 {
-    if (!child || !Append(child.get(), assignID))
+    if (!child || !Link(child.get(), m_children.size(), assignID))
         return nullptr;
     child->m_owned = true;
     return child.release();
 }
 
-bool CProjectNode::Append(CProjectNode* child, bool assignID)
+bool CProjectNode::Link(CProjectNode* child, std::size_t position, bool assignID)
 {
     if (HangsBelow(child))
         return false; // the tree would have no root any more
     if (child->m_holder)
         child->m_holder->Detach(child);
-    m_children.push_back(child);
+    position = std::min(position, m_children.size()); // the child itself may have left this list
+    m_children.insert(m_children.begin() + static_cast<std::ptrdiff_t>(position), child);
     child->m_parent = this;
     child->m_holder = this;
     if (assignID && child->m_id == 0)
         child->SetID(GetNewID());
     return true;
+}
+
+bool CProjectNode::MoveChild(int from, int to)
+{
+    const int count = GetNumChildren();
+    if (from < 0 || from >= count || to < 0 || to >= count)
+        return false;
+    const auto begin = m_children.begin();
+    if (from < to)
+        std::rotate(begin + from, begin + from + 1, begin + to + 1);
+    else
+        std::rotate(begin + to, begin + from, begin + from + 1);
+    return true;
+}
+
+std::vector<std::unique_ptr<CProjectNode>> CProjectNode::ReleaseChildren(
+    const std::function<bool(CProjectNode&)>& which)
+{
+    std::vector<std::unique_ptr<CProjectNode>> owned;
+    std::erase_if(m_children, [&](CProjectNode* child) {
+        if (!which(*child))
+            return false;
+        child->m_holder = nullptr;
+        child->m_parent = nullptr;
+        if (std::exchange(child->m_owned, false))
+            owned.emplace_back(child);
+        return true;
+    });
+    return owned;
 }
 
 void CProjectNode::Detach(CProjectNode* child)

@@ -5,10 +5,13 @@
 #include "project/NodeType.h"
 #include "xml/DsXml.h"
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
 #include <vector>
+
+class CResourceLoader;
 
 namespace vantrel {
 struct NodeForm;
@@ -71,6 +74,12 @@ public:
     Status WriteNodeAttributes(IXMLDOMNode* node,
                                const std::map<std::string, std::string>& attributes);
 
+    /// Resolves a reference "stringRef:Table.Key" through "ThemeStrings.xml" in the content folder of
+    /// the document that this node was read from. True with the string in `out`; false, with `source`
+    /// itself in `out`, when it is none or doesn't resolve. A node that was never read gives false
+    /// and leaves `out` alone.
+    bool ParseResString(std::string source, std::string* out);
+
     /// @name Tree
     /// @{
 
@@ -81,6 +90,18 @@ public:
 
     /// Appends `child` and owns it from now on. Hands out the child, or null when it is refused.
     CProjectNode* AdoptChild(std::unique_ptr<CProjectNode> child, bool assignID);
+
+    /// As `AddChild`, but at `position`, counted from 0; a position beyond the end appends. What this
+    /// node owns already it goes on owning.
+    bool InsertChild(CProjectNode* child, int position, bool assignID);
+
+    /// Moves a child to another position, both counted from 0. False for a position outside.
+    bool MoveChild(int from, int to);
+
+    /// Takes the children that `which` names out of the list, in one pass, and hands out those that
+    /// this node owned: they go with the result.
+    std::vector<std::unique_ptr<CProjectNode>> ReleaseChildren(
+        const std::function<bool(CProjectNode&)>& which);
 
     /// The child at `index`, counted from 0, or null.
     CProjectNode* GetChild(int index);
@@ -129,13 +150,14 @@ protected:
     const std::string& DocumentPath() const;
 
 private:
-    bool Append(CProjectNode* child, bool assignID);
+    bool Link(CProjectNode* child, std::size_t position, bool assignID);
     void Detach(CProjectNode* child);
     bool HangsBelow(const CProjectNode* node) const;
     void KeepDocumentPath(const _xmlDoc* doc);
     Status ReadAttributesByMap(const _xmlNode* element);
 
     std::shared_ptr<const std::string> m_documentPath; ///< shared with the parent where equal
+    std::unique_ptr<CResourceLoader> m_pResLoader;     ///< made at the first need
     long m_id = 0;
     eNodeType m_type;
     bool m_owned = false; ///< released by `m_holder`

@@ -185,6 +185,9 @@ private:
 /// subtree before.
 constexpr char kBorrower = 0;
 
+/// The same for a document that is given away. The two differ by address.
+constexpr char kGift = 0;
+
 /// The node behind `node` in document order below `top`, or null.
 xmlNode* NextBelow(const xmlNode* top, xmlNode* node)
 {
@@ -291,6 +294,12 @@ XmlNodePtr CopyXml(const xmlNode* node)
     return PlainCopier(nullptr).Copy(node);
 }
 
+KeptXmlPtr KeepXml(xmlNode* node)
+{
+    const bool isGiven = node && node->doc && node->doc->_private == &kGift;
+    return isGiven ? TakeXml(node) : KeptXmlPtr{ CopyXml(node).release() };
+}
+
 KeptXmlPtr TakeXml(xmlNode* node)
 {
     if (!node)
@@ -333,6 +342,16 @@ Status AppendKeptXml(xmlNode* parent, const KeptXmlPtr& kept)
     parent->last = kept.get();
     kept->doc->_private = std::exchange(parent->doc->psvi, kept.get());
     return status::kOk;
+}
+
+XmlGift::XmlGift(xmlDoc* doc) : m_doc(doc)
+{
+    m_doc->_private = const_cast<char*>(&kGift);
+}
+
+XmlGift::~XmlGift()
+{
+    m_doc->_private = nullptr;
 }
 
 XmlLoan::XmlLoan(xmlDoc* doc) : m_doc(doc)

@@ -13,6 +13,10 @@
 /// stand for.
 namespace vantrel {
 
+/// Keeps `node` of a document that is read: takes it while the document is given away, an `XmlGift`,
+/// and copies it otherwise. Null gives null.
+KeptXmlPtr KeepXml(xmlNode* node);
+
 /// A deep copy of `node`. Null gives null.
 XmlNodePtr CopyXml(const xmlNode* node);
 
@@ -27,6 +31,20 @@ Status AppendXmlCopy(xmlNode* parent, const xmlNode* node);
 /// Writes a kept subtree as the last child of `parent`: lent to the document for the time of an
 /// `XmlLoan`, and copied otherwise.
 Status AppendKeptXml(xmlNode* parent, const KeptXmlPtr& kept);
+
+/// Tells those who read a document that it is released afterwards, so that they may take out of it
+/// what they keep. Lives no longer than the document.
+class XmlGift
+{
+public:
+    explicit XmlGift(xmlDoc* doc);
+    ~XmlGift();
+    XmlGift(const XmlGift&) = delete;
+    XmlGift& operator=(const XmlGift&) = delete;
+
+private:
+    xmlDoc* m_doc; ///< not owned
+};
 
 /// Lets kept subtrees be lent to a document that is saved and released at once, so that a save need
 /// not copy them. Lives between the making of the document, whose `_private` and `psvi` it needs,

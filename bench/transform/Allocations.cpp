@@ -1,0 +1,33 @@
+#include "Clip.h"
+
+#include <cstdlib>
+#include <new>
+
+namespace {
+
+unsigned long g_count = 0;
+
+} // namespace
+
+void* operator new(std::size_t size)
+{
+    ++g_count;
+    if (void* memory = std::malloc(size > 0 ? size : 1))
+        return memory;
+    throw std::bad_alloc();
+}
+
+void operator delete(void* memory) noexcept
+{
+    std::free(memory);
+}
+
+void operator delete(void* memory, std::size_t) noexcept
+{
+    std::free(memory);
+}
+
+unsigned long clip::AllocationCount()
+{
+    return g_count;
+}

@@ -1,0 +1,263 @@
+#include "disc/DSMenu.h"
+
+#include "core/PathUtils.h"
+#include "disc/DSCommandList.h"
+#include "disc/DSEncodingParams.h"
+#include "disc/DSMenuButton.h"
+#include "disc/DSMenuColours.h"
+#include "disc/DSMenuElementList.h"
+#include "disc/DSProjectData.h"
+#include "disc/MenuTemplates.h"
+#include "project/NodeForm.h"
+#include "storyboard/QZBaseSBD.h"
+#include "storyboard/SbdUtils.h"
+
+using std::map;
+using std::string;
+using std::string_view;
+using namespace vantrel;
+
+long g_MenuInstanceID = 0;
+
+namespace {
+
+/// Positions of the fixed children that are asked for.
+enum : int
+{
+    kLayoutRect = 5,
+    kElements = 8
+};
+
+/// "0x" and the low 32 bits; a text of another form reads as all bits.
+template <auto Field>
+constexpr AttributeRow<CDSMenu> Hex32(const char* name)
+{
+    return { name,
+             [](const CDSMenu& menu, string& text) {
+                 text += FormatString("0x%08X", static_cast<long>(menu.*Field));
+             },
+             [](CDSMenu& menu, string_view text) {
+                 menu.*Field = static_cast<unsigned long>(ReadHex(string(text)));
+             } };
+}
+
+/// A path, held in the form of the machine at hand.
+template <auto Field>
+constexpr AttributeRow<CDSMenu> FilePath(const char* name)
+{
+    return { name,
+             [](const CDSMenu& menu, string& text) {
+                 text = menu.*Field;
+                 (void)Utils::UnresolveFilePath(&text); // a path outside a theme stays
+             },
+             [](CDSMenu& menu, string_view text) {
+                 menu.*Field = text;
+                 if (!text.empty())
+                     (void)Utils::ResolveFilePath(&(menu.*Field)); // has no failure to tell
+             } };
+}
+
+} // namespace
+
+// The attributes of "Menu".
+AttributeTable<CDSMenu> CDSMenu::Attributes()
+{
+    using namespace vantrel::attribute;
+    constexpr auto native = [](const CDSMenu& menu) { return menu.m_native; };
+    static constexpr auto rows = Rows<CDSMenu>(
+        NodeID<CDSMenu>("ID"), Hex32<&CDSMenu::m_btnLayout>("btnLayout").WhenAbsent(""),
+        Flags<&CDSMenu::m_tag, FormatMenuTag>("tag"),
+        Flags<&CDSMenu::m_flags, FormatMenuFlag>("flag"),
+        Decimal<&CDSMenu::m_templateID>("templateID"), Decimal<&CDSMenu::m_bkgndID>("backgroundID"),
+        Bool<&CDSMenu::m_native>("native").WhenNativeAsked("1"),
+        Decimal<&CDSMenu::m_defaultButton>("defaultButton"), // a file may name what put_ refuses
+        Text<&CDSMenu::m_label>("label"),
+        Decimal<&CDSMenu::m_contentCount>("contentCount").ReadOnly(),
+        FilePath<&CDSMenu::m_background>("background").If(native),
+        FilePath<&CDSMenu::m_audio>("audio").If(native),
+        Real<&CDSMenu::m_duration>("duration").If(native));
+    return { rows, FinishReading };
+}
+
+void CDSMenu::FinishReading(CDSMenu& menu)
+{
+    if (menu.m_native)
+        (void)menu.LoadBkngProdFromPVTX(menu.m_background); // without a template it stays empty
+}
+
+CDSMenu::CDSMenu() : CProjectNode(eNodeMenu, kFormOf<CDSMenu, &CDSMenu::Attributes>)
+{
+    (void)FinalConstruct(); // fails only where the constructor would have thrown
+}
+
+CDSMenu::~CDSMenu() = default;
+
+Status CDSMenu::FinalConstruct()
+{
+    if (GetNumChildren() == 0) {
+        AdoptChild(std::make_unique<CPaletteNode>(), true);
+        for (const char* name : { "ButtonScheme1", "ButtonScheme2", "ButtonScheme3" })
+            AdoptChild(std::make_unique<CButtonSchemeNode>(name), true);
+        AdoptChild(std::make_unique<CSPUColourNode>(), true);
+        AdoptChild(std::make_unique<CLayoutRectNode>(), true);
+        AdoptChild(std::make_unique<CDSCommandList>(), true);
+        AdoptChild(std::make_unique<CDSEncodingParams>(), true);
+        AdoptChild(std::make_unique<CDSMenuElementList>(), true);
+    }
+    return m_native ? status::kOk : CreateProduction();
+}
+
+Status CDSMenu::FinalRelease()
+{
+    return ReleaseProduction();
+}
+
+Status CDSMenu::CreateProduction()
+{
+    if (m_production)
+        return status::kNothingDone;
+    m_production = std::make_unique<CQZBaseSBD>();
+    (void)m_production->NewProduction(); // a fresh storyboard has nothing to fail on
+    return status::kOk;
+}
+
+Status CDSMenu::ReleaseProduction()
+{
+    if (!m_production)
+        return status::kNothingDone;
+    m_production.reset();
+    return status::kOk;
+}
+
+Status CDSMenu::GetProduction(CQZBaseSBD** out)
+{
+    if (!out)
+        return status::kNullPointer;
+    *out = m_production.get();
+    return m_production ? status::kOk : status::kNothingDone;
+}
+
+Status CDSMenu::LoadBkngProdFromPVTX(string file)
+{
+    if (file.empty() || !m_production)
+        return status::kOk;
+    string path = DocumentPath();
+    (void)Utils::GetContentPath(&path); // never says anything
+    path += file;
+
+    const CProjectNode* list = GetParent();
+    const auto* project = dynamic_cast<CDSProjectData*>(list ? list->GetParent() : nullptr);
+    MenuTemplates* shared = project ? project->m_templates.get() : nullptr;
+    const XmlDocPtr doc = shared ? shared->Copy(path) : ReadTemplate(path);
+    // Without a document there is no root, and the storyboard stays as it is.
+    (void)m_production->LoadProductionFromXML(xmlDocGetRootElement(doc.get()));
+    return status::kOk;
+}
+
+Status CDSMenu::get_ButtonLayout(CDSLayout* out) const
+{
+    return Give(out, CDSLayout(m_btnLayout));
+}
+
+Status CDSMenu::get_LayoutRect(FloatRect* out)
+{
+    const auto* rect = dynamic_cast<CLayoutRectNode*>(GetChild(kLayoutRect));
+    return rect ? rect->GetLayoutRect(out) : status::kNullPointer;
+}
+
+Status CDSMenu::put_LayoutRect(FloatRect* in)
+{
+    auto* rect = dynamic_cast<CLayoutRectNode*>(GetChild(kLayoutRect));
+    return rect ? rect->SetLayoutRect(in) : status::kNullPointer;
+}
+
+Status CDSMenu::put_DefaultButton(long id)
+{
+    if (id != 0) {
+        CProjectNode* elements = GetChild(kElements);
+        if (!elements)
+            return status::kNullPointer;
+        const CProjectNode* button =
+            elements->FindChildByID(static_cast<unsigned long>(id), nullptr);
+        if (!button || button->GetType() != eNodeButton)
+            return status::kNotAButton;
+    }
+    m_defaultButton = id;
+    return status::kOk;
+}
+
+Status CDSMenu::put_BkgndID(long value)
+{
+    m_background.clear();
+    return Take(m_bkgndID, value);
+}
+
+Status CDSMenu::get_Background(string* out) const
+{
+    if (!out)
+        return status::kNullPointer;
+    return Utils::HasString(m_background, ".pvtx") ? getSbdBkgndVideo(m_production.get(), out)
+                                                   : Give(out, m_background);
+}
+
+Status CDSMenu::put_Background(string value)
+{
+    if (value.empty())
+        return status::kNullPointer;
+    if (m_native) {
+        m_background = std::move(value);
+        m_bkgndID = 0;
+    } else {
+        (void)setSbdBkgndVideo(m_production.get(), value, false); // told by the next get_
+    }
+    return status::kOk;
+}
+
+Status CDSMenu::get_Duration(double* out) const
+{
+    const double played = getSbdDuration(m_production.get());
+    const bool isStored = m_native || m_bkgndID > 0 || !(played > 0.0);
+    return Give(out, isStored ? m_duration : played);
+}
+
+Status CDSMenu::SetPalette(long)
+{
+    return status::kOk;
+}
+
+Status CDSMenu::get_ButtonCount(long* out)
+{
+    CProjectNode* elements = GetChild(kElements);
+    long count = 0;
+    for (int i = 0; elements && i < elements->GetNumChildren(); ++i)
+        count += elements->GetChild(i)->GetType() == eNodeButton;
+    return Give(out, count);
+}
+
+Status CDSMenu::GetButton(long index, CDSMenuButton** out)
+{
+    if (!out)
+        return status::kNullPointer;
+    CProjectNode* elements = index > 0 ? GetChild(kElements) : nullptr;
+    for (int i = 0; elements && i < elements->GetNumChildren(); ++i) {
+        CProjectNode* element = elements->GetChild(i);
+        if (element->GetType() == eNodeButton && --index == 0) {
+            *out = dynamic_cast<CDSMenuButton*>(element);
+            return status::kOk;
+        }
+    }
+    return status::kNothingDone;
+}
+
+Status CDSMenu::FillAttributeMap(map<string, string>& attributes, bool native)
+{
+    attributes.clear();
+    Attributes().Write(*this, native, attributes);
+    return status::kOk;
+}
+
+Status CDSMenu::ParseAttributeMap(const map<string, string>& attributes)
+{
+    Attributes().Read(*this, attributes);
+    return status::kOk;
+}

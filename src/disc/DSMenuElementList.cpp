@@ -1,0 +1,19 @@
+#include "disc/DSMenuElementList.h"
+
+using std::map;
+using std::string;
+
+CDSMenuElementList::CDSMenuElementList() : CProjectNode(eNodeElements)
+{}
+
+CDSMenuElementList::~CDSMenuElementList() = default;
+
+Status CDSMenuElementList::FillAttributeMap(map<string, string>&, bool)
+{
+    return status::kOk;
+}
+
+Status CDSMenuElementList::ParseAttributeMap(const map<string, string>&)
+{
+    return status::kOk;
+}

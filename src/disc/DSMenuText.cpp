@@ -1,0 +1,117 @@
+#include "disc/DSMenuText.h"
+
+#include "menu/TextRows.h"
+#include "project/NodeForm.h"
+#include "xml/XmlValue.h"
+
+using std::map;
+using std::string;
+using namespace vantrel;
+
+// The attributes of "Text".
+AttributeTable<CDSMenuText> CDSMenuText::Attributes()
+{
+    using namespace vantrel::attribute;
+    static constexpr auto rows =
+        Rows<CDSMenuText>(NodeID<CDSMenuText>("ID"), Enum<&CDSMenuText::m_highlight>("highlight"),
+                          TextRows<CDSMenuText>::All());
+    return rows;
+}
+
+CDSMenuText::CDSMenuText() : ElementNode(eNodeText, kFormOf<CDSMenuText, &CDSMenuText::Attributes>)
+{}
+
+CDSMenuText::~CDSMenuText() = default;
+
+Status CDSMenuText::GetEffectXML(IXMLDOMNode* node)
+{
+    return getEffectXML(node);
+}
+
+Status CDSMenuText::SetEffectXML(IXMLDOMNode* node)
+{
+    return node ? setEffectXML(node) : status::kNullPointer;
+}
+
+Status CDSMenuText::Resolve(Status (CMenuTextImpl::*get)(string*), string* out)
+{
+    if (!out)
+        return status::kNullPointer;
+    string raw;
+    if ((this->*get)(&raw) != status::kOk)
+        return status::kNothingDone;
+    return ParseResString(std::move(raw), out) ? status::kOk : status::kNothingDone;
+}
+
+Status CDSMenuText::getString(string* out)
+{
+    return Resolve(&CMenuTextImpl::getString, out);
+}
+
+Status CDSMenuText::get_Font(string* out)
+{
+    return Resolve(&CMenuTextImpl::getFontName, out);
+}
+
+Status CDSMenuText::get_HeightString(string* out)
+{
+    return Resolve(&CMenuTextImpl::getFontHeightString, out);
+}
+
+Status CDSMenuText::get_Height(long* out)
+{
+    if (!out)
+        return status::kNullPointer;
+    string raw;
+    string height;
+    const Status told = getFontHeightString(&raw);
+    const bool isReference = raw.find("stringRef:") != string::npos;
+    if (told == status::kOk && !ParseResString(raw, &height)) {
+        if (isReference)
+            return status::kNothingDone;
+        height = raw;
+    }
+    return Give(out, ParseLong(height));
+}
+
+Status CDSMenuText::GetColor(unsigned long* out)
+{
+    (void)getColor(out); // told by the output alone
+    return status::kNothingDone;
+}
+
+int CDSMenuText::NodeInserted()
+{
+    return 0;
+}
+
+Status CDSMenuText::ReadXML(IXMLDOMNode* node)
+{
+    (void)CProjectNode::ReadXML(node); // the effect counts without attributes too
+    if (!node)
+        return status::kNullPointer;
+    if (_xmlNode* effect = FindChildElement(node, "effect"))
+        KeepEffectXML(effect);
+    return status::kOk;
+}
+
+Status CDSMenuText::WriteXML(IXMLDOMNode* node, long native)
+{
+    (void)CProjectNode::WriteXML(node, native); // the words are written all the same
+    if (node)
+        (void)WriteEffectXML(node); // there may be none
+    return status::kOk;
+}
+
+Status CDSMenuText::FillAttributeMap(map<string, string>& attributes, bool native)
+{
+    attributes.clear();
+    Attributes().Write(*this, native, attributes);
+    return status::kOk;
+}
+
+Status CDSMenuText::ParseAttributeMap(const map<string, string>& attributes)
+{
+    Attributes().Read(*this, attributes);
+    return status::kOk;
+}

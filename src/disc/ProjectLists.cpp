@@ -1,0 +1,251 @@
+#include "disc/DSDataFile.h"
+#include "disc/DSMenu.h"
+#include "disc/DSProjectData.h"
+#include "disc/DSTitle.h"
+#include "disc/ProjectChildren.h"
+
+#include <iterator>
+#include <map>
+
+using std::string;
+using namespace vantrel;
+
+namespace {
+
+/// The first child for which `is` holds, as the class that the list holds; null without one.
+template <class Node, class Predicate>
+Node* FindIn(CProjectNode* list, Predicate is)
+{
+    for (int i = 0; list && i < list->GetNumChildren(); ++i) {
+        auto* node = dynamic_cast<Node*>(list->GetChild(i));
+        if (node && is(*node))
+            return node;
+    }
+    return nullptr;
+}
+
+/// The position of a number that counts from 1; -1, which no list has, for one below.
+long PositionOf(long index)
+{
+    return index > 0 ? index - 1 : -1;
+}
+
+bool IsTemplate(const CDSMenu& menu)
+{
+    constexpr auto kinds = static_cast<unsigned long>(MenuTypes::MainTemplate) |
+                           static_cast<unsigned long>(MenuTypes::ChapterTemplate);
+    unsigned long tag = 0;
+    (void)menu.get_Tag(&tag);
+    return (tag & kinds) != 0;
+}
+
+} // namespace
+
+Status CDSProjectData::GetTitle(long index, CDSTitle** out)
+{
+    if (!out)
+        return status::kNullPointer;
+    CProjectNode* titles = GetChild(kTitles);
+    if (!titles)
+        return status::kNothingDone;
+    *out = nullptr;
+    (void)GetObject(titles, PositionOf(index), out); // beyond the list there is no title
+    return status::kOk;
+}
+
+Status CDSProjectData::AddTitle(long index, CDSTitle* title)
+{
+    return AddTo(kTitles, index, title);
+}
+
+Status CDSProjectData::RemoveTitle(long id, CDSTitle* title)
+{
+    return RemoveFrom(kTitles, id, title);
+}
+
+Status CDSProjectData::MoveTitle(long from, long to)
+{
+    return MoveIn(kTitles, from, to);
+}
+
+Status CDSProjectData::GetMenu(long index, CDSMenu** out)
+{
+    return out ? GetObject(GetChild(kMenus), PositionOf(index), out) : status::kNullPointer;
+}
+
+Status CDSProjectData::AddMenu(long index, CDSMenu* menu)
+{
+    return AddTo(kMenus, index, menu);
+}
+
+Status CDSProjectData::InsertMenu(long index, CDSMenu* menu)
+{
+    return AddTo(kMenus, index, menu);
+}
+
+Status CDSProjectData::RemoveMenu(long id, CDSMenu* menu)
+{
+    return menu ? RemoveFrom(kMenus, id, menu) : RemoveMenus({ id });
+}
+
+Status CDSProjectData::RemoveMenus(const std::set<long>& ids)
+{
+    CProjectNode* menus = GetChild(kMenus);
+    if (!menus)
+        return status::kNullPointer;
+
+    std::map<long, CDSMenu*> chosen; // of each ID the first template, else the first menu
+    for (int i = 0; i < menus->GetNumChildren(); ++i) {
+        auto* menu = dynamic_cast<CDSMenu*>(menus->GetChild(i));
+        if (!menu || !ids.contains(menu->GetID()))
+            continue;
+        CDSMenu*& goes = chosen[menu->GetID()];
+        if (!goes || (IsTemplate(*menu) && !IsTemplate(*goes)))
+            goes = menu;
+    }
+    Remove(*menus, [&chosen](CProjectNode& menu) {
+        const auto goes = chosen.find(menu.GetID());
+        return goes != chosen.end() && goes->second == &menu;
+    });
+    return chosen.size() == ids.size() ? status::kOk : status::kNoSuchObject;
+}
+
+Status CDSProjectData::MoveMenu(long from, long to)
+{
+    return MoveIn(kMenus, from, to);
+}
+
+bool CDSProjectData::GetMenuAsType(MenuTypes type, CDSMenu** out)
+{
+    if (!out)
+        return false;
+    const auto hasType = [type](const CDSMenu& menu) {
+        unsigned long tag = 0;
+        (void)menu.get_Tag(&tag);
+        return tag == static_cast<unsigned long>(type);
+    };
+    CDSMenu* found = FindIn<CDSMenu>(GetChild(kMenus), hasType);
+    if (found)
+        *out = found;
+    return found != nullptr;
+}
+
+bool CDSProjectData::GetMainTempMenu(CDSMenu** out)
+{
+    return GetMenuAsType(MenuTypes::MainTemplate, out);
+}
+
+bool CDSProjectData::GetChapTempMenu(CDSMenu** out)
+{
+    return GetMenuAsType(MenuTypes::ChapterTemplate, out);
+}
+
+Status CDSProjectData::GetDataFile(long index, CDSDataFile* out)
+{
+    if (!out)
+        return status::kNullPointer;
+    CDSDataFile* file = nullptr;
+    const Status found = GetObject(GetChild(kDataFiles), PositionOf(index), &file);
+    if (Failed(found))
+        return found;
+    if (!file)
+        return status::kNoSuchObject;
+    out->CopyValues(*file);
+    return status::kOk;
+}
+
+Status CDSProjectData::AddDataFile(long index, CDSDataFile* file)
+{
+    return AddTo(kDataFiles, index, file);
+}
+
+Status CDSProjectData::RemoveDataFile(long id, CDSDataFile* file)
+{
+    return RemoveFrom(kDataFiles, id, file);
+}
+
+Status CDSProjectData::MoveDataFile(long from, long to)
+{
+    return MoveIn(kDataFiles, from, to);
+}
+
+Status CDSProjectData::FindDataFile(string* source, string* dest, unsigned long tag,
+                                    CDSDataFile* out)
+{
+    if (!out)
+        return status::kNullPointer;
+    const CDSDataFile* found =
+        FindIn<CDSDataFile>(GetChild(kDataFiles), [&](const CDSDataFile& file) {
+            return file.Matches(source, dest, tag);
+        });
+    if (!found)
+        return status::kNothingDone;
+    out->CopyValues(*found);
+    return status::kOk;
+}
+
+Status CDSProjectData::RemoveDataFileBySource(string* source, CDSDataFile* out)
+{
+    if (!source)
+        return status::kNullPointer;
+    CDSDataFile* found =
+        FindIn<CDSDataFile>(GetChild(kDataFiles), [source](const CDSDataFile& file) {
+            return file.Matches(source, nullptr, 0);
+        });
+    if (!found)
+        return status::kNoSuchObject;
+    if (out)
+        out->CopyValues(*found);
+    return RemoveDataFile(0, found);
+}
+
+Status CDSProjectData::_Clear()
+{
+    for (const ProjectChild list : { kTitles, kMenus, kDataFiles, kProjectCommands }) {
+        if (CProjectNode* node = GetChild(list))
+            (void)node->ReleaseChildren([](CProjectNode&) { return true; }); // released here
+    }
+    return status::kOk;
+}
+
+void CDSProjectData::Remove(CProjectNode& list, const std::function<bool(CProjectNode&)>& which)
+{
+    auto owned = list.ReleaseChildren(which);
+    std::move(owned.begin(), owned.end(), std::back_inserter(m_removed));
+}
+
+Status CDSProjectData::AddTo(int position, long index, CProjectNode* node)
+{
+    CProjectNode* list = GetChild(position);
+    if (!node || !list)
+        return status::kNullPointer;
+    const int count = list->GetNumChildren();
+    if (index < 0 || index > count + 1L)
+        return status::kNoSuchObject;
+    const int place = index == 0 ? count : static_cast<int>(index) - 1;
+    return list->InsertChild(node, place, true) ? status::kOk : status::kBadArgument;
+}
+
+Status CDSProjectData::RemoveFrom(int position, long id, CProjectNode* node)
+{
+    CProjectNode* list = GetChild(position);
+    if (!list)
+        return status::kNullPointer;
+    if (!node)
+        node = list->FindChildByID(static_cast<unsigned long>(id), nullptr);
+    const int count = list->GetNumChildren();
+    Remove(*list, [node](CProjectNode& child) { return &child == node; });
+    return list->GetNumChildren() < count ? status::kOk : status::kNoSuchObject;
+}
+
+Status CDSProjectData::MoveIn(int position, long from, long to)
+{
+    CProjectNode* list = GetChild(position);
+    if (!list)
+        return status::kNullPointer;
+    const long count = list->GetNumChildren();
+    if (from < 1 || from > count || to < 1 || to > count)
+        return status::kNoSuchObject;
+    (void)list->MoveChild(static_cast<int>(from) - 1, static_cast<int>(to) - 1); // in the list
+    return status::kOk;
+}
