@@ -65,6 +65,25 @@ Json PointFact(float x, float y)
     return { NumberFact(x), NumberFact(y) };
 }
 
+Json RectFact(const FloatRect& rect)
+{
+    return { { "left", NumberFact(rect.left) },
+             { "top", NumberFact(rect.top) },
+             { "right", NumberFact(rect.right) },
+             { "bottom", NumberFact(rect.bottom) } };
+}
+
+std::string PointText(const Json& point)
+{
+    return '(' + NumberText(point[0]) + ", " + NumberText(point[1]) + ')';
+}
+
+std::string RectText(const Json& rect)
+{
+    return PointText({ rect["left"], rect["top"] }) + " to " +
+           PointText({ rect["right"], rect["bottom"] });
+}
+
 std::string ColourFact(unsigned long colour)
 {
     constexpr char kDigits[] = "0123456789ABCDEF";

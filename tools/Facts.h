@@ -29,6 +29,13 @@ std::string NumberText(const Json& fact);
 /// `[x, y]`
 Json PointFact(float x, float y);
 
+/// `{"left": -1.2, "top": 0.8, "right": 1.2, "bottom": -0.9}`
+Json RectFact(const FloatRect& rect);
+
+/// "(-1.2, 0.8)" of a `PointFact`, and "(-1.2, 0.8) to (1.2, -0.9)" of a `RectFact`.
+std::string PointText(const Json& point);
+std::string RectText(const Json& rect);
+
 /// `"#F5EFE6"` from a colour with red in the lowest byte; the highest follows unless it is 0.
 std::string ColourFact(unsigned long colour);
 

@@ -141,6 +141,11 @@ void Page::Table(const std::vector<std::vector<std::string>>& rows)
     }
 }
 
+std::string Numbered(std::string_view noun, const std::string& number)
+{
+    return std::string(noun) + ' ' + number;
+}
+
 std::string Count(std::size_t count, std::string_view noun)
 {
     return std::to_string(count) + ' ' + std::string(noun) + (count == 1 ? "" : "s");

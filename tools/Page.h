@@ -40,6 +40,9 @@ private:
     std::string m_text;
 };
 
+/// "Panel 4".
+std::string Numbered(std::string_view noun, const std::string& number);
+
 /// "1 title", "3 titles".
 std::string Count(std::size_t count, std::string_view noun);
 

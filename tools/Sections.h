@@ -43,6 +43,12 @@ void ShowTitles(Page& page, const Json& titles);
 Json MenuFacts(CProjectNode* list);
 void ShowMenus(Page& page, const Json& menus);
 
+/// Texts and overlays of a `CDSMenuElementList`; null gives empty arrays.
+Json TextFacts(CProjectNode* elements);
+Json OverlayFacts(CProjectNode* elements);
+/// What stands on `parent`, a menu or button, so many steps below the menu's details.
+void ShowElements(Page& page, std::size_t depth, const Json& parent);
+
 Json DataFileFacts(CProjectNode* list);
 void ShowDataFiles(Page& page, const Json& files);
 

@@ -11,12 +11,6 @@ string Span(const Json& start, const Json& end)
     return NumberText(start) + " to " + NumberText(end) + " s";
 }
 
-/// "Effect 3"
-string Numbered(const char* noun, const Json& number)
-{
-    return noun + (' ' + number.dump());
-}
-
 string AudioText(const Json& audio)
 {
     const auto envelope = audio["envelope"].size();
@@ -36,17 +30,17 @@ string EffectText(const Json& effect)
 void ShowParts(Page& page, std::size_t depth, const Json& parent)
 {
     for (const Json& layer : parent["layers"]) {
-        page.Nested(depth, Numbered("Layer", layer["key"]), "type " + layer["type"].dump());
+        page.Nested(depth, Numbered("Layer", layer["key"].dump()), "type " + layer["type"].dump());
         for (const Json& effect : layer["effects"]) {
             const bool motion = effect["kind"] == "motion";
-            page.Nested(depth + 1, Numbered(motion ? "Motion" : "Effect", effect["id"]),
+            page.Nested(depth + 1, Numbered(motion ? "Motion" : "Effect", effect["id"].dump()),
                         EffectText(effect));
             if (motion)
                 ShowParts(page, depth + 2, effect);
         }
     }
     for (const Json& audio : parent["audio"])
-        page.Nested(depth, Numbered("Audio", audio["id"]), AudioText(audio));
+        page.Nested(depth, Numbered("Audio", audio["id"].dump()), AudioText(audio));
     if (parent.contains("nativeAudio") && !parent["nativeAudio"].is_null())
         page.Nested(depth, "Own audio", AudioText(parent["nativeAudio"]));
 }
@@ -90,7 +84,7 @@ void ShowStoryboard(Page& page, const Json& storyboard)
                        NumberText(storyboard["frameRate"]) + " frames a second",
                        version.empty() ? "of an early version" : "version " + version }));
     for (const Json& panel : storyboard["panels"]) {
-        page.Nested(1, Numbered("Panel", panel["key"]), PanelText(panel));
+        page.Nested(1, Numbered("Panel", panel["key"].dump()), PanelText(panel));
         if (panel["kind"] == "transition")
             continue;
         ShowParts(page, 2, panel);
@@ -99,7 +93,7 @@ void ShowStoryboard(Page& page, const Json& storyboard)
     ShowParts(page, 1, storyboard);
     page.Nested(1, "Sections", SectionText(storyboard["sections"]));
     for (const Json& group : storyboard["groups"]) {
-        page.Nested(1, Numbered("Group", group["key"]),
+        page.Nested(1, Numbered("Group", group["key"].dump()),
                     List({ group["name"], group["description"],
                            "panels " + group["start"].dump() + " to " + group["end"].dump() }));
     }
