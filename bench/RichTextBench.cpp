@@ -1,4 +1,5 @@
-// Times what a menu text costs: reading its runs, questions, edits, and references to a string table.
+// Times what a menu text costs: reading its runs, questions, edits, and references to a string
+// table.
 
 #include "project/DSList.h"
 #include "project/ResourceLoader.h"
@@ -25,7 +26,8 @@ namespace {
 
 constexpr int kStrings = 600; // as in the table of a full theme
 
-/// An effect with a text of so many runs, every other one in a font and a style of its own.
+/// An effect with a text of so many runs, every other one in a font or a style of its own, each on a
+/// line of the file.
 XmlDocPtr MakeEffect(long runs)
 {
     string text = "<effect><plugin_data><html><body><p align=\"left\">";

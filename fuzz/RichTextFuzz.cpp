@@ -1,6 +1,6 @@
-// Takes bytes for the content of a rich text and for edits of it. After each edit the words are what
-// they should be, asking again shows the change, doing it twice is doing it once, and a saved file
-// gives the same answers.
+// Takes bytes for the content of a rich text and for edits of it. After each edit the words are
+// what they should be, asking again shows the change, doing it twice is doing it once, and a saved
+// file gives the same answers.
 
 #include "Fuzz.h"
 #include "core/XmlText.h"

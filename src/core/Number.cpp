@@ -10,12 +10,16 @@ namespace vantrel {
 
 namespace {
 
-constexpr std::string_view kSpace = " \t\n\v\f\r";
+constexpr bool IsSpace(char c)
+{
+    return c == ' ' || (c >= '\t' && c <= '\r');
+}
 
 /// Cuts white space and one sign off the front of `text`; true for a minus.
 bool TakeSign(std::string_view& text)
 {
-    text.remove_prefix(std::min(text.find_first_not_of(kSpace), text.size()));
+    while (!text.empty() && IsSpace(text.front()))
+        text.remove_prefix(1);
     const bool negative = !text.empty() && text.front() == '-';
     if (negative || (!text.empty() && text.front() == '+'))
         text.remove_prefix(1);

@@ -4,8 +4,10 @@
 #include "menu/GeometryUtils.h"
 #include "menu/TextRows.h"
 #include "richtext/VCPTextPlugInHelper.h"
+#include "transform/RestingKey.h"
 #include "transform/VCPOverlayRect.h"
 #include "transform/VCPPlugInHelper.h"
+#include "xml/KeptXml.h"
 #include "xml/XmlValue.h"
 
 #include <algorithm>
@@ -75,7 +77,7 @@ Status CMenuTextImpl::LoadTextHelperXML()
         m_textHelper = std::make_unique<CVCPTextPlugInHelper>();
     (void)m_textHelper->ReleaseXML(); // can't fail
     const Status loaded = m_textHelper->LoadXML(EffectXML());
-    m_isTextLoaded = !Failed(loaded) && !HasEffect(); // others may change the effect's XML
+    m_isTextLoaded = !Failed(loaded) && !HasEffect();
     return loaded;
 }
 
@@ -83,7 +85,10 @@ Status CMenuTextImpl::LoadTextHelperXML()
 template <class Ask>
 Status CMenuTextImpl::Answer(Ask ask)
 {
-    if (!EffectXML() || (!m_isTextLoaded && Failed(LoadTextHelperXML())))
+    if (!EffectXML())
+        return status::kNothingDone;
+    const bool isStale = !m_isTextLoaded || HasEffect(); // others may change the effect's XML
+    if (isStale && Failed(LoadTextHelperXML()))
         return status::kNothingDone;
     return ask(*m_textHelper);
 }
@@ -94,9 +99,22 @@ Status CMenuTextImpl::Edit(Change change)
 {
     if (!EffectXML())
         return status::kNullPointer;
+    if (HasEffect())
+        return EditEffect(change);
     if (!m_isTextLoaded)
         (void)LoadTextHelperXML(); // without a body the change is refused
     return change(*m_textHelper);
+}
+
+/// The same for an effect, which may only have been lent its XML: a changed copy takes its place.
+template <class Change>
+Status CMenuTextImpl::EditEffect(Change change)
+{
+    const XmlNodePtr copy = CopyXml(EffectXML());
+    CVCPTextPlugInHelper helper;
+    (void)helper.LoadXML(copy.get()); // without a body the change is refused
+    const Status changed = change(helper);
+    return Failed(changed) ? changed : m_effect.setXMLData(copy.get());
 }
 
 Status CMenuTextImpl::getString(string* out)
@@ -215,8 +233,7 @@ Status CMenuTextImpl::get3DKeyFrame(unsigned long mask, double time, KVC_KEYFRAM
         return status::kOk;
     CVCPPlugInHelper helper;
     (void)helper.LoadXML(PluginData(EffectXML())); // without data there are no keys
-    const Status got = helper.Get3DKeyframe(mask, time, type, x, y, z, caps);
-    return Failed(got) ? got : status::kOk;
+    return GetKeyOrRest(helper, mask, time, type, x, y, z, caps);
 }
 
 Status CMenuTextImpl::getHandle(_TextHandles* out) const
@@ -272,8 +289,8 @@ CMenuTextImpl::RestingPose CMenuTextImpl::ReadPose() const
     std::transform(std::begin(corners), std::end(corners), pose.corners,
                    [](const D3DXVECTOR3& corner) { return FPoint(corner.x, corner.y); });
     float z = 1.0F;
-    (void)overlay.Get3DKeyframe(TRANSFORM_SCALING, 0.0, KVC_KEYFRAME_START_OFFSET, &pose.scale.x,
-                                &pose.scale.y, &z, nullptr); // without a key 1.0
+    (void)GetKeyOrRest(overlay, TRANSFORM_SCALING, 0.0, KVC_KEYFRAME_START_OFFSET, &pose.scale.x,
+                       &pose.scale.y, &z, nullptr); // never fails
     return pose;
 }
 

@@ -3,7 +3,7 @@
 #include "menu/MenuElementImpl.h"
 #include "project/DiscEnums.h"
 #include "transform/VCPKeyframeData.h"
-#include "xml/KeptXml.h"
+#include "xml/KeptXmlPtr.h"
 
 #include <memory>
 #include <string>
@@ -118,6 +118,8 @@ private:
     Status Answer(Ask ask);
     template <class Change>
     Status Edit(Change change);
+    template <class Change>
+    Status EditEffect(Change change);
 
     _TextHandles m_handle = _TextHandles::TopLeft;
     double m_rotateAngle = 0.0;

@@ -23,6 +23,7 @@ XmlDocPtr MakeProjectDocument()
     XmlDocPtr doc{ xmlNewDoc(XmlChars("1.0")) };
     if (!doc)
         return nullptr;
+    doc->dict = xmlDictCreate(); // a few names stand in it many times; without memory they're copied
     xmlNode* root = xmlNewDocNode(doc.get(), nullptr, XmlChars("Root"), nullptr);
     if (!root)
         return nullptr;

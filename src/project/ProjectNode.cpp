@@ -17,12 +17,6 @@ using namespace vantrel;
 
 unsigned long CProjectNode::sm_dwNextID = 1;
 
-namespace {
-
-constexpr std::size_t kUsualChildren = 16; // a menu has nine fixed ones, a list often some more
-
-} // namespace
-
 CProjectNode::CProjectNode(eNodeType type) : m_type(type)
 {}
 
@@ -170,8 +164,6 @@ bool CProjectNode::Link(CProjectNode* child, std::size_t position, bool assignID
         return false; // the tree would have no root any more
     if (child->m_holder)
         child->m_holder->Detach(child);
-    if (m_children.empty())
-        m_children.reserve(kUsualChildren);
     position = std::min(position, m_children.size()); // the child itself may have left this list
     m_children.insert(m_children.begin() + static_cast<std::ptrdiff_t>(position), child);
     child->m_parent = this;

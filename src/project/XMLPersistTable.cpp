@@ -1,7 +1,7 @@
 #include "project/XMLPersistTable.h"
 
 #include <algorithm>
-#include <array>
+#include <iterator>
 
 using std::string;
 using std::string_view;
@@ -44,24 +44,19 @@ const XMLPersistEntry xmlPersistTable[numEntries] = {
 
 namespace {
 
-/// The rows in ascending order of their names, for a search that a load makes for every element.
-const auto kByName = [] {
-    std::array<const XMLPersistEntry*, numEntries> rows;
-    for (std::size_t i = 0; i < rows.size(); ++i)
-        rows[i] = &xmlPersistTable[i];
-    std::sort(rows.begin(), rows.end(),
-              [](const auto* a, const auto* b) { return a->strElement < b->strElement; });
-    return rows;
-}();
+template <class Test>
+const XMLPersistEntry* FirstEntry(Test isWanted)
+{
+    const auto* end = std::end(xmlPersistTable);
+    const auto* found = std::find_if(std::begin(xmlPersistTable), end, isWanted);
+    return found == end ? nullptr : found;
+}
 
 } // namespace
 
 const XMLPersistEntry* FindEntry(eNodeType type)
 {
-    const auto* end = std::end(xmlPersistTable);
-    const auto* found = std::find_if(std::begin(xmlPersistTable), end,
-                                     [type](const auto& row) { return row.nodeType == type; });
-    return found == end ? nullptr : found;
+    return FirstEntry([type](const auto& row) { return row.nodeType == type; });
 }
 
 const XMLPersistEntry* FindEntry(string element)
@@ -71,8 +66,6 @@ const XMLPersistEntry* FindEntry(string element)
 
 const XMLPersistEntry* vantrel::FindElement(string_view element)
 {
-    const auto found = std::lower_bound(
-        kByName.begin(), kByName.end(), element,
-        [](const auto* row, string_view wanted) { return row->strElement < wanted; });
-    return found != kByName.end() && (*found)->strElement == element ? *found : nullptr;
+    // Names are first compared by length, so that a plain walk beats a search in a sorted table.
+    return FirstEntry([element](const auto& row) { return row.strElement == element; });
 }

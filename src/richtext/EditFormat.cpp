@@ -27,7 +27,8 @@ std::size_t AttributeStart(string_view text)
     return name > 0 && text.substr(name).starts_with('=') ? name + 1 : 0;
 }
 
-/// Where the value at the front of `text` ends: before a comma with a further attribute, or with it.
+/// The length of the value at the front of `text`: up to a comma with a further attribute behind
+/// it, or all.
 std::size_t ValueLength(string_view text)
 {
     std::size_t comma = text.find(',');

@@ -44,13 +44,16 @@ void Link(xmlNode* parent, xmlNode* before, xmlNode* first, xmlNode* last, xmlNo
         node->parent = parent;
 }
 
-/// Appends the texts behind `text` to it that are of its kind, as long as a file gives the sum back.
+/// Appends the texts behind `text` to it that are of its kind, as long as a file gives the sum
+/// back.
 void JoinFollowing(xmlNode* text)
 {
     const auto fits = [&](const string& words, const xmlNode* next) {
         return IsTextNode(next) && IsIndentation(next) == IsIndentation(text) &&
                words.size() + WordsOf(next).size() <= kLongestText;
     };
+    if (!IsTextNode(text->next))
+        return;
     string words{ WordsOf(text) };
     const std::size_t before = words.size();
     while (fits(words, text->next)) {
@@ -61,23 +64,35 @@ void JoinFollowing(xmlNode* text)
         xmlNodeSetContent(text, XmlChars(words.c_str()));
 }
 
+/// Removes the blank indentation among `first` and the texts right behind it, provided that there is
+/// a run among them; gives the first that stays.
+xmlNode* DropIndentation(xmlNode* first)
+{
+    bool hasRun = false;
+    for (const xmlNode* text = first; IsTextNode(text); text = text->next)
+        hasRun |= IsRun(text);
+    for (xmlNode* text = first; hasRun && IsTextNode(text);) {
+        xmlNode* const next = text->next;
+        if (IsIndentation(text) && IsBlank(text)) {
+            first = text == first ? next : first;
+            RemoveNode(text);
+        }
+        text = next;
+    }
+    return first;
+}
+
 /// Settles `text` and the texts right behind it; gives the last of them.
 xmlNode* SettleNeighbours(xmlNode* text)
 {
+    text = DropIndentation(text);
     JoinFollowing(text);
     while (IsTextNode(text->next)) {
-        xmlNode* next = text->next;
-        const bool sameKind = IsIndentation(text) == IsIndentation(next);
-        if (!sameKind && IsIndentation(next) && IsBlank(next)) {
-            RemoveNode(next);
-        } else {
-            if (!sameKind && IsIndentation(text) && IsBlank(text))
-                RemoveNode(text);
-            else if (XmlNodePtr part{
-                         xmlNewDocNode(text->doc, nullptr, XmlChars(kNeutralName), nullptr) })
-                xmlAddNextSibling(text, part.release());
-            text = next;
-        }
+        xmlNode* const next = text->next;
+        XmlNodePtr part{ xmlNewDocNode(text->doc, nullptr, XmlChars(kNeutralName), nullptr) };
+        if (part)
+            xmlAddNextSibling(text, part.release());
+        text = next;
         JoinFollowing(text);
     }
     return text;

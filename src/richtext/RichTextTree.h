@@ -8,9 +8,10 @@
 #include <string>
 #include <string_view>
 
-/// The tree of a rich text: "p", "font", "b" and "i" elements below a "body", in any order and at any
-/// depth, with the words in text nodes. A run is a text node of words. How a run looks is said by the
-/// elements around it, up to the nearest one with the body's name: a body in a body begins anew.
+/// The tree of a rich text: "p", "font", "b" and "i" elements below a "body", in any order and at
+/// any depth, with the words in text nodes. A run is a text node of words. How a run looks is said
+/// by the elements around it, up to the nearest one with the body's name: a body in a body begins
+/// anew.
 namespace vantrel {
 
 /// The longest text node that libxml2 reads back from a file.
@@ -22,8 +23,8 @@ inline constexpr const char* kRemoveAttribute = "TEXTED_REMOVE";
 /// True when a file can hold these attributes and give them back.
 bool FitsFile(const std::map<std::string, std::string>& attributes);
 
-/// The name of a rich text element; empty for anything else. A name with a prefix is another language's,
-/// also where a kept copy has made the prefix part of the name.
+/// The name of a rich text element; empty for anything else. A name with a prefix is none of rich
+/// text, here as in a kept copy, where the prefix has become part of the name.
 inline std::string_view TagOf(const xmlNode* node)
 {
     return IsElement(node) && !(node->ns && node->ns->prefix) ? NameOf(node) : std::string_view();
@@ -43,7 +44,7 @@ inline std::string_view WordsOf(const xmlNode* text)
 /// indented file does. Readers pass it over.
 inline bool IsIndentation(const xmlNode* node)
 {
-    return IsTextNode(node) && WordsOf(node).starts_with('\n');
+    return IsTextNode(node) && node->content && node->content[0] == '\n';
 }
 
 /// True for exactly the nodes that `IXMLDOMNode` finds by "text()".
@@ -65,8 +66,8 @@ xmlNode* MakeRun(xmlNode* body);
 /// Puts a new element around the siblings `first` to `last`. Null when memory fails.
 xmlNode* Enclose(xmlNode* first, xmlNode* last, const char* name);
 
-/// Takes an element out and leaves its content in its place. One with attributes or namespaces of its
-/// own keeps them, under a name that says nothing. Texts may come to stand side by side: call
+/// Takes an element out and leaves its content in its place. One with attributes or namespaces of
+/// its own keeps them, under a name that says nothing. Texts may come to stand side by side: call
 /// `SettleTexts` afterwards.
 void Dissolve(xmlNode* element);
 

@@ -16,8 +16,8 @@ namespace vantrel {
 
 namespace {
 
-/// What an element, or all elements around a run, say of it. The texts are views of the document, or
-/// of the walk's own store.
+/// What an element, or all elements around a run, say of it. The texts are views of the document,
+/// or of the walk's own store.
 struct RunAttributes
 {
     string_view m_fontHeightString;
@@ -80,8 +80,8 @@ void SetGroup(unsigned long& style, const StyleGroup& group, unsigned long bit)
     style = (style & ~group.Mask()) | bit;
 }
 
-/// Adds what the elements outside of `inner` say: of the texts the innermost counts, of the flags the
-/// outermost.
+/// Adds what the elements outside of `inner` say: of the texts the innermost counts, of the flags
+/// the outermost.
 void AccumulateAttributes(RunAttributes& inner, const RunAttributes& outer)
 {
     for (const auto text : kMerged) {

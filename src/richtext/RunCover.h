@@ -24,8 +24,8 @@ struct RunScan
 RunScan ScanRuns(xmlNode* body, const std::string& name,
                  const std::map<std::string, std::string>& attributes);
 
-/// Puts new elements around all runs that stand in no element of that name: as few and as far out as
-/// it goes, except that none but a paragraph is put around a paragraph. Appends them to `made`.
+/// Puts new elements around all runs that stand in no element of that name: as few and as far out
+/// as it goes, except that none but a paragraph is put around a paragraph. Appends them to `made`.
 /// Gives `status::kNullPointer` when memory fails.
 Status CoverLooseRuns(xmlNode* body, const std::string& name, std::vector<xmlNode*>* made);
 

@@ -26,7 +26,8 @@ bool HasWords(const xmlNode* body, string_view words)
     return words.empty();
 }
 
-/// True for what a new text takes the place of: words, also those that readers can't see, and lines.
+/// True for what a new text takes the place of: words, also those that readers can't see, and
+/// lines.
 bool BelongsToText(const xmlNode* node)
 {
     return IsRun(node) || node->type == XML_CDATA_SECTION_NODE ||
@@ -57,7 +58,8 @@ void RemoveOtherText(const xmlNode* body, const xmlNode* run)
     }
 }
 
-/// What of a text a file gives back: one that begins with a line feed would be taken for indentation.
+/// What of a text a file gives back: one that begins with a line feed would be taken for
+/// indentation.
 string FitWords(const string& text)
 {
     string store;

@@ -10,10 +10,10 @@ class CVCPTextXMLEditor;
 /// One view of the rich text in an effect's XML, at "plugin_data/html/body" below the effect: its
 /// words and one summary of how they look, and the edits of both.
 ///
-/// `LoadXML` reads the text once; the questions answer from the summary. A setter changes the loaded
-/// XML through a `CVCPTextXMLEditor` and reads the text again, so that the next question shows the
-/// change. Setters give the editor's status, and `status::kFailure` without a loaded body unless it
-/// says otherwise below.
+/// `LoadXML` reads the text once; the questions answer from the summary. A setter changes the
+/// loaded XML through a `CVCPTextXMLEditor` and reads the text again, so that the next question
+/// shows the change. Setters give the editor's status, and `status::kFailure` without a loaded body
+/// unless it says otherwise below.
 ///
 /// The loaded XML stays the caller's and has to outlive the use of it. Getters take no null.
 class VANTREL_API CVCPTextPlugInHelper : public CVCPPlugInHelper

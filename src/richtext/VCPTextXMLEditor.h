@@ -11,8 +11,8 @@
 
 /// Edits a rich text as a whole. Built on the stack for one edit.
 ///
-/// Each `Edit...` operation states its request as a format string of a small edit language, and hands
-/// it to the tag operation for its kind, which changes the body:
+/// Each `Edit...` operation states its request as a format string of a small edit language, and
+/// hands it to the tag operation for its kind, which changes the body:
 ///
 /// | Letter | Argument                                      | Meaning                           |
 /// |--------|-----------------------------------------------|-----------------------------------|
@@ -29,8 +29,8 @@
 ///
 /// Failures change nothing: `status::kFailure` from every `Edit...` of an editor without body or
 /// attributes, `status::kUnexpected` for a body that is no element, `status::kBadArgument` for what
-/// can't stand in a file or in the language, and `status::kNotAvailable` when the words would come to
-/// stand too deep for a file. 1 means that a format asks for nothing that the operation knows.
+/// can't stand in a file or in the language, and `status::kNotAvailable` when the words would come
+/// to stand too deep for a file. 1 means that a format asks for nothing that the operation knows.
 class VANTREL_API CVCPTextXMLEditor
 {
 public:
@@ -42,18 +42,18 @@ public:
     /// @name Edits
     /// @{
 
-    /// Replaces all words by `text`, which looks as the first run did. Line feeds at the head of the
-    /// text are dropped: a text that begins with one would be taken for indentation. `keep` has no
-    /// effect.
+    /// Replaces all words by `text`, which looks as the first run did. Line feeds at the head of
+    /// the text are dropped: a text that begins with one would be taken for indentation. `keep` has
+    /// no effect.
     Status EditText(std::string text, bool keep);
 
     /// Aligns every paragraph, and makes one of words that stand in none. `TEXT_JUSTIFY_LEFT`,
     /// `TEXT_JUSTIFY_CENTER` or `TEXT_JUSTIFY_RIGHT`; anything else does nothing.
     Status EditJustification(unsigned long justification);
 
-    /// Puts bold or italic on the whole text, or takes it off. One edit follows one bit: the last of
-    /// `TEXT_STYLE_NOT_ITALIC`, `TEXT_STYLE_ITALIC`, `TEXT_STYLE_NOT_BOLD`, `TEXT_STYLE_BOLD` that is
-    /// set. A mixed bit gives `status::kBadArgument`, no bit `status::kFailure`.
+    /// Puts bold or italic on the whole text, or takes it off. One edit follows one bit: the last
+    /// of `TEXT_STYLE_NOT_ITALIC`, `TEXT_STYLE_ITALIC`, `TEXT_STYLE_NOT_BOLD`, `TEXT_STYLE_BOLD`
+    /// that is set. A mixed bit gives `status::kBadArgument`, no bit `status::kFailure`.
     Status EditStyle(unsigned long style);
 
     /// Sets the font face of every run; an empty one takes it off.
@@ -94,8 +94,8 @@ public:
     /// Applies a paragraph format to one paragraph.
     Status EditFrame(_xmlNode*& node, const std::string& format);
 
-    /// True when the only element right below `node` is one of the kind being edited. `found`, which
-    /// may be null, receives the address of the first such element, or 0.
+    /// True when the only element right below `node` is one of the kind being edited. `found`,
+    /// which may be null, receives the address of the first such element, or 0.
     bool TestOnlyChildNodeOfOpType(_xmlNode*& node, long* found);
 
     /// Adds a child element before or behind the child `node`, as the last child when that is null.
@@ -121,7 +121,7 @@ protected:
     _xmlDoc* m_doc;                     ///< not owned; null without a body
     TextAttributes* m_attributes;       ///< the summary that the edit concerns; not owned
     bool m_isValid;                     ///< body and attributes are there
-    bool m_isFontEdit = false;          ///< the last edit was one of fonts
+    bool m_isFontEdit = false;          ///< an edit of fonts was asked for
     std::string m_operation;            ///< the letter of the format in progress
     std::string m_format;               ///< the format in progress
     bool m_emptied = false;             ///< the text was emptied

@@ -15,8 +15,8 @@ using namespace vantrel;
 
 namespace {
 
-/// A file's parser takes 256 levels. No edit puts words deeper than this, so that the tree still fits
-/// at the place where it hangs in a file.
+/// A file's parser takes 256 levels. No edit puts words deeper than this, so that the tree still
+/// fits at the place where it hangs in a file.
 constexpr int kDeepestLevel = 200;
 
 /// Gives a body without words an empty run for the time of an edit, so that what is put around the

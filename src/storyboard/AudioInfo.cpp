@@ -1,4 +1,5 @@
 #include "storyboard/AudioInfo.h"
+#include "xml/MemberTable.h"
 
 #include <cmath>
 

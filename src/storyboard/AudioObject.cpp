@@ -1,6 +1,5 @@
 #include "storyboard/AudioObject.h"
 
-#include "storyboard/EffectObject.h"
 #include "storyboard/PersistParts.h"
 
 Status CAudioObject::PersistXML(_xmlNode* node, bool save)

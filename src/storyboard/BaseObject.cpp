@@ -1,4 +1,7 @@
 #include "storyboard/BaseObject.h"
+#include "storyboard/MetaData.h"
+#include "storyboard/PersistParts.h"
+#include "xml/MemberTable.h"
 
 #include <utility>
 

@@ -2,8 +2,8 @@
 
 #include "core/Export.h"
 #include "core/Status.h"
-#include "storyboard/MetaData.h"
 #include "storyboard/Thumbnail.h"
+#include "xml/KeptXmlPtr.h"
 #include "xml/XMLWrapper.h"
 
 #include <cstdint>

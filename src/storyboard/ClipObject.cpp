@@ -1,7 +1,6 @@
 #include "storyboard/ClipObject.h"
 
 #include "storyboard/AudioObject.h"
-#include "storyboard/EffectObject.h"
 #include "storyboard/PersistParts.h"
 
 using vantrel::PersistPart;

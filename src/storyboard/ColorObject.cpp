@@ -1,6 +1,7 @@
 #include "storyboard/ColorObject.h"
 
 #include "storyboard/PersistParts.h"
+#include "xml/MemberTable.h"
 
 using namespace vantrel;
 

@@ -1,6 +1,9 @@
 #include "storyboard/EffectInfo.h"
 
+#include "storyboard/PersistParts.h"
 #include "storyboard/SourceFileObject.h"
+#include "xml/KeptXml.h"
+#include "xml/MemberTable.h"
 
 using namespace vantrel;
 

@@ -4,7 +4,7 @@
 #include "core/Status.h"
 #include "core/Types.h"
 #include "storyboard/Thumbnail.h"
-#include "xml/KeptXml.h"
+#include "xml/KeptXmlPtr.h"
 #include "xml/XMLWrapper.h"
 
 #include <memory>

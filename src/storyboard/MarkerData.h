@@ -116,6 +116,6 @@ protected:
 private:
     tagMarker* Find(long id) const;
 
-    const double* m_playFrom = nullptr;  ///< the panel's, not owned
-    const double* m_playTo = nullptr; ///< the panel's, not owned
+    const double* m_playFrom = nullptr; ///< the panel's, not owned
+    const double* m_playTo = nullptr;   ///< the panel's, not owned
 };

@@ -1,5 +1,7 @@
 #include "storyboard/MetaData.h"
 
+#include "xml/KeptXml.h"
+
 #include <algorithm>
 
 using std::string;

@@ -1,19 +1,15 @@
 #pragma once
 
 #include "core/Status.h"
-#include "xml/KeptXml.h"
+#include "xml/KeptXmlPtr.h"
 #include "xml/MemberTable.h"
 
-#include <map>
 #include <string>
 
 /// Free-form data of an object: XML subtrees by name.
 namespace vantrel {
 
-using MetaDataMap = std::map<std::string, KeptXmlPtr>;
-
-/// The element name of the entry that every new object has, and the key that it gets in the map.
-inline constexpr const char* kTrackStatus = "TrackStatus";
+/// The key of the entry that every new object has.
 inline constexpr const char* kTrackStatusKey = "trackstatus";
 
 /// Gives `map` the entry of a new object: which tracks show, none of them.

@@ -1,7 +1,6 @@
 #include "storyboard/MotionObject.h"
 
 #include "storyboard/AudioObject.h"
-#include "storyboard/EffectObject.h"
 #include "storyboard/PersistParts.h"
 #include "storyboard/SourceFileObject.h"
 

@@ -1,7 +1,7 @@
 #include "storyboard/NativeInfo.h"
 
 #include "storyboard/AudioObject.h"
-#include "storyboard/EffectObject.h"
+#include "xml/MemberTable.h"
 
 using namespace vantrel;
 

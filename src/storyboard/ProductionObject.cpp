@@ -2,11 +2,12 @@
 
 #include "core/Property.h"
 #include "storyboard/AudioObject.h"
-#include "storyboard/EffectObject.h"
+#include "storyboard/MetaData.h"
 #include "storyboard/MotionObject.h"
 #include "storyboard/PersistParts.h"
 #include "storyboard/QZBaseSBD.h"
 #include "storyboard/SourceFileObject.h"
+#include "xml/MemberTable.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "storyboard/MetaData.h"
 #include "storyboard/ParentObject.h"
+#include "xml/KeptXmlPtr.h"
 #include "xml/PersistObject.h"
 
 #include <cstdint>

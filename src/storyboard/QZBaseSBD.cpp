@@ -3,7 +3,6 @@
 #include "storyboard/AudioObject.h"
 #include "storyboard/ClipObject.h"
 #include "storyboard/ColorObject.h"
-#include "storyboard/EffectObject.h"
 #include "storyboard/TransitionObject.h"
 
 #include <algorithm>

@@ -2,7 +2,6 @@
 #include "storyboard/AudioObject.h"
 #include "storyboard/ClipObject.h"
 #include "storyboard/ColorObject.h"
-#include "storyboard/EffectObject.h"
 #include "storyboard/QZBaseSBD.h"
 #include "storyboard/TransitionObject.h"
 #include "xml/MemberTable.h"

@@ -2,7 +2,6 @@
 
 #include "storyboard/AudioObject.h"
 #include "storyboard/ClipObject.h"
-#include "storyboard/EffectObject.h"
 #include "storyboard/QZBaseSBD.h"
 
 #include <cmath>
@@ -132,7 +131,7 @@ Status setSbdBkgndVideo(CQZBaseSBD* sbd, string path, bool fitToVideo)
     }
     clip->SetClipType(eClipFileSource);
 
-    const string name = vantrel::CleanFileName(std::move(path));
+    const string name = CSourceFileImpl::CleanFileName(std::move(path));
     if (clip->m_fileName != name) {
         clip->m_fileName = name;
         clip->m_fileDuration = 0.0; // these were the former file's
@@ -170,7 +169,7 @@ Status setSbdBkgndAudio(CQZBaseSBD* sbd, string path)
         audio = production->AddAudio();
         audio->m_endOffset = getSbdDuration(sbd);
     }
-    audio->m_fileName = vantrel::CleanFileName(std::move(path));
+    audio->m_fileName = CSourceFileImpl::CleanFileName(std::move(path));
     return status::kOk;
 }
 

@@ -3,38 +3,19 @@
 #include "core/PathUtils.h"
 #include "core/Property.h"
 #include "storyboard/EffectObject.h"
+#include "xml/KeptXml.h"
+#include "xml/MemberTable.h"
 
 #include <algorithm>
 
 using std::string;
 using namespace vantrel;
 
-namespace vantrel {
-
-string CleanFileName(string name)
-{
-    if (!name.starts_with("vob:") && !name.empty()) {
-        // From the second character on: a pair in front is a network path.
-        const auto isPair = [](char a, char b) { return a == '\\' && b == '\\'; };
-        std::size_t write = 1;
-        for (std::size_t read = 1; read < name.size(); ++read, ++write) {
-            if (read + 1 < name.size() && isPair(name[read], name[read + 1]))
-                ++read;
-            name[write] = name[read];
-        }
-        name.resize(std::min(write, name.size()));
-    }
-    Utils::ResolveFilePath(&name);
-    return name;
-}
-
-} // namespace vantrel
-
 namespace {
 
 void LoadFileName(xmlNode* element, CSourceFileImpl& file)
 {
-    file.m_fileName = CleanFileName(string(ElementText(element)));
+    file.m_fileName = CSourceFileImpl::CleanFileName(string(ElementText(element)));
 }
 
 void SaveTransparency(const MemberPlace& place, const char* name, const CSourceFileImpl& file)
@@ -104,6 +85,23 @@ CSourceFileImpl::~CSourceFileImpl() = default;
 Status CSourceFileImpl::get_FileName(string* out) const
 {
     return Give(out, m_fileName);
+}
+
+string CSourceFileImpl::CleanFileName(string name)
+{
+    if (!name.starts_with("vob:") && !name.empty()) {
+        // From the second character on: a pair in front is a network path.
+        const auto isPair = [](char a, char b) { return a == '\\' && b == '\\'; };
+        std::size_t write = 1;
+        for (std::size_t read = 1; read < name.size(); ++read, ++write) {
+            if (read + 1 < name.size() && isPair(name[read], name[read + 1]))
+                ++read;
+            name[write] = name[read];
+        }
+        name.resize(std::min(write, name.size()));
+    }
+    Utils::ResolveFilePath(&name);
+    return name;
 }
 
 Status CXMLSourceFileImpl::SaveMembers()

@@ -2,7 +2,7 @@
 
 #include "core/Export.h"
 #include "core/Status.h"
-#include "xml/KeptXml.h"
+#include "xml/KeptXmlPtr.h"
 #include "xml/XMLWrapper.h"
 
 #include <cstdint>
@@ -24,6 +24,10 @@ public:
 
     /// Null gives `status::kNullPointer`.
     Status get_FileName(std::string* out) const;
+
+    /// Makes a file name from a project a path of this machine: doubled backslashes become single
+    /// ones, except a pair in front and behind "vob:", and `Utils::ResolveFilePath` does the rest.
+    static std::string CleanFileName(std::string name);
 
     std::string m_fileName;      ///< path of the file
     double m_inPoint = 0.0;      ///< start of the used stretch
@@ -62,11 +66,3 @@ public:
     Status SaveMembers() override;
     Status LoadMembers() override;
 };
-
-namespace vantrel {
-
-/// Makes a file name from a project a path of this machine: doubled backslashes become single ones,
-/// except a pair in front and behind "vob:", and `Utils::ResolveFilePath` does the rest.
-std::string CleanFileName(std::string name);
-
-} // namespace vantrel

@@ -1,4 +1,5 @@
 #include "storyboard/SubObject.h"
+#include "xml/MemberTable.h"
 
 using namespace vantrel;
 

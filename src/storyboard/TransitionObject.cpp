@@ -1,6 +1,7 @@
 #include "storyboard/TransitionObject.h"
 
 #include "storyboard/PersistParts.h"
+#include "xml/XmlValue.h"
 
 using vantrel::PersistPart;
 

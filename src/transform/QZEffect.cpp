@@ -4,6 +4,7 @@
 #include "storyboard/EffectInfo.h"
 #include "storyboard/SourceFileObject.h"
 #include "storyboard/SubObject.h"
+#include "transform/RestingKey.h"
 #include "transform/VCPFinite.h"
 #include "transform/VCPPlugInHelper.h"
 #include "xml/KeptXml.h"
@@ -135,13 +136,7 @@ Status CQZEffect::get3DKeyFrame(unsigned long mask, double time, KVC_KEYFRAME_TY
         return status::kOk;
     CVCPPlugInHelper helper;
     (void)helper.LoadXML(getXMLPlugInData()); // never fails
-    const Status result = helper.Get3DKeyframe(mask, time, type, x, y, z, caps);
-    if (!Failed(result))
-        return status::kOk;
-    if (mask != TRANSFORM_TRANSLATION && mask != TRANSFORM_ROTATION && mask != TRANSFORM_SCALING)
-        return result;
-    helper.GetDefaultValues(mask, x, y, z);
-    return status::kOk;
+    return GetKeyOrRest(helper, mask, time, type, x, y, z, caps);
 }
 
 Status CQZEffect::getTranslation(float* x, float* y, float* z) const

@@ -113,9 +113,11 @@ Status CVCPKeyframeData<T, S>::MoveKey(KVC_KEYFRAME_TYPE type, double oldTime, d
     const auto key = FindKey(*keys, oldTime);
     if (key == keys->end())
         return status::kNothingDone;
-    const KEY_ELEM moved = key->second;
-    keys->erase(key);
-    keys->insert_or_assign(newTime, moved);
+    auto moved = keys->extract(key); // keeps its memory: a frame may move keys
+    moved.key() = newTime;
+    const auto placed = keys->insert(std::move(moved));
+    if (!placed.inserted)
+        placed.position->second = placed.node.mapped();
     return status::kOk;
 }
 

@@ -68,8 +68,8 @@ Status LoadMap(Map& keys, const char* name, _xmlNode* track)
         (void)XMLHelpers<void>::LoadDoubleNode(element, "Time", "", &time);
         result = S().Load(element, key.value);
         (void)XMLHelpers<void>::LoadULongNode(element, "Caps", "", &key.caps);
-        keys.emplace_hint(keys.end(), FiniteOrZero(time),
-                          key); // of two at one time the first stays
+        // at the end in a file of ours; of two keys at one time the first stays
+        keys.emplace_hint(keys.end(), FiniteOrZero(time), key);
     }
     return result;
 }

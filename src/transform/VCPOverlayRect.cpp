@@ -1,7 +1,6 @@
 #include "transform/VCPOverlayRect.h"
 
 #include "core/Property.h"
-#include "menu/GeometryUtils.h"
 #include "xml/KeptXml.h"
 #include "xml/XmlValue.h"
 

@@ -75,10 +75,10 @@ Status CVCPTransformImpl::AdjustOpacityKeyframesIntl(unsigned long delta, bool o
         if (onlyType && each != type)
             continue;
         for (auto& [time, key] : *m_opacity.GetMap(each)) {
-            const long sum =
-                static_cast<long>(key.value + delta); // both signed in two's complement
-            if (key.caps & vantrel::kOpacityBit)
-                key.value = static_cast<unsigned long>(std::clamp(sum, 0L, kOpaque));
+            if (!(key.caps & vantrel::kOpacityBit))
+                continue;
+            const long sum = static_cast<long>(key.value + delta); // of signed numbers
+            key.value = static_cast<unsigned long>(std::clamp(sum, 0L, kOpaque));
         }
     }
     return status::kOk;

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <initializer_list>
+#include <limits>
 
 using vantrel::VectorTrack;
 
@@ -97,7 +97,7 @@ D3DXVECTOR3 CVCPTransformImpl::TranslationAt(double time) const
     return IsTurnedScroll() ? D3DXVECTOR3(t.y, -t.x, t.z) : t;
 }
 
-/// Translations count in the longer side of the frame.
+/// Translations count in halves of each side of the frame, model units in halves of the longer one.
 D3DXVECTOR3 CVCPTransformImpl::TranslationInModelUnits() const
 {
     const D3DXVECTOR3& t = m_lastTranslation;
@@ -137,19 +137,16 @@ void CVCPTransformImpl::GetTimeInterval(KVC_KEYFRAME_TYPE type, unsigned long ma
 
 Status CVCPTransformImpl::GetHoldTime(double* out) const
 {
-    constexpr unsigned long masks[] = { TRANSFORM_TRANSLATION, TRANSFORM_ROTATION,
-                                        TRANSFORM_SCALING, TRANSFORM_HANDLES };
-    std::pair<double, double> entrance;
-    GetTimeInterval(KVC_KEYFRAME_START_OFFSET, masks[0], entrance);
-    for (const unsigned long mask : masks) {
-        std::pair<double, double> span;
+    double first = std::numeric_limits<double>::max();
+    double last = 0.0;
+    std::pair<double, double> span;
+    for (const unsigned long mask :
+         { TRANSFORM_TRANSLATION, TRANSFORM_ROTATION, TRANSFORM_SCALING, TRANSFORM_HANDLES }) {
         GetTimeInterval(KVC_KEYFRAME_START_OFFSET, mask, span);
-        entrance.first = std::min(entrance.first, span.first);
-        entrance.second = std::max(entrance.second, span.second);
+        first = std::min(first, span.first);
+        last = std::max(last, span.second);
     }
-    std::pair<double, double> exit;
-    GetTimeInterval(KVC_KEYFRAME_END_OFFSET, TRANSFORM_TRANSLATION, exit);
-    const bool staysInScroll = !(exit.first > 0.0) && m_speed != 0.0;
-    return vantrel::Give(out, staysInScroll ? entrance.first / 2.0 + entrance.second / 2.0
-                                            : entrance.second);
+    GetTimeInterval(KVC_KEYFRAME_END_OFFSET, TRANSFORM_TRANSLATION, span);
+    const bool leaves = span.first > 0.0;
+    return vantrel::Give(out, !leaves && m_speed != 0.0 ? first / 2.0 + last / 2.0 : last);
 }

@@ -54,8 +54,9 @@ public:
     Status Set3DKeyframe(unsigned long mask, double time, KVC_KEYFRAME_TYPE type, float x, float y,
                          float z, unsigned long caps);
 
-    /// Reads the key of exactly that `time`; `caps` may be null. Without such a key the outputs take
-    /// the values of `GetDefaultValues`, and the status is `status::kNothingDone`.
+    /// Reads the key of exactly that `time`; `caps` may be null. Without such a key `x`, `y` and `z`
+    /// take the values of `GetDefaultValues`, and the status is `status::kNothingDone`; an empty map
+    /// gives `status::kBadArgument`.
     Status Get3DKeyframe(unsigned long mask, double time, KVC_KEYFRAME_TYPE type, float* x,
                          float* y, float* z, unsigned long* caps) const;
 
@@ -78,7 +79,8 @@ public:
     Status MoveKey(unsigned long mask, KVC_KEYFRAME_TYPE type, double from, double to);
     Status DeleteKey(unsigned long mask, double time, KVC_KEYFRAME_TYPE type);
 
-    /// Also forgets the adjustments made, and ends a scroll when the translation goes.
+    /// Forgets the adjustments first, as `Reset3DKeyframesDelta` does with any mask, and ends a
+    /// scroll when the translation goes.
     Status DeleteAllKeys(unsigned long mask, KVC_KEYFRAME_TYPE type);
 
     /// The clip's length in seconds, for all tracks.
@@ -138,8 +140,9 @@ public:
 
     /// @name Evaluation
     /// @{
-    /// Evaluates all tracks at `time` and rebuilds the world matrix. A track that has no value there
-    /// counts as resting. The second argument has no effect.
+    /// Evaluates all tracks at `time` and rebuilds the world matrix: a point is shifted by the
+    /// handles, scaled, turned and translated. A track that has no value there counts as resting.
+    /// The second argument has no effect.
     Status FrameMove(double time, float);
 
     /// The 4 by 4 matrix of the last `FrameMove`; the identity before the first.
@@ -203,7 +206,8 @@ public:
     Status LoadXML(_xmlNode* node);
 
     /// Replaces the keys of one type in all tracks by those of `path`, and applies the adjustments
-    /// made so far to them. A null `path` only removes the keys.
+    /// made so far to them, so that a track without any key gets its resting one. A null `path` only
+    /// removes the keys and ends a scroll.
     Status LoadPath(KVC_KEYFRAME_TYPE type, _xmlNode* path);
     /// @}
 

@@ -5,6 +5,7 @@
 
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 using std::string;
@@ -67,7 +68,7 @@ private:
             string text;
             for (next = child; next && IsText(next); next = next->next)
                 AppendText(text, *next);
-            copy.reset(xmlNewDocText(m_target, XmlChars(text.c_str())));
+            copy = text.empty() ? nullptr : NewText(m_target, text.c_str());
         } else {
             copy = CopyLeaf(child);
         }
@@ -82,7 +83,7 @@ private:
             return nullptr;
         switch (node->type) {
         case XML_TEXT_NODE:
-            return XmlNodePtr{ xmlNewDocText(m_target, node->content) };
+            return NewText(m_target, node->content ? Chars(node->content) : "");
         case XML_CDATA_SECTION_NODE:
         case XML_COMMENT_NODE:
         case XML_PI_NODE:
@@ -90,8 +91,7 @@ private:
         case XML_ENTITY_REF_NODE: {
             string text;
             AppendText(text, *node);
-            return XmlNodePtr{ text.empty() ? nullptr
-                                            : xmlNewDocText(m_target, XmlChars(text.c_str())) };
+            return text.empty() ? nullptr : NewText(m_target, text.c_str());
         }
         default:
             return nullptr;
@@ -124,8 +124,11 @@ private:
     {
         if (!ns)
             return Chars(name);
-        if ((m_used.empty() || m_used.back() != ns) && m_known.insert(ns).second)
-            m_used.push_back(ns);
+        if (ns != m_lastUsed) {
+            m_lastUsed = ns;
+            if (!IsDataTypes(ns) && m_known.insert(ns).second)
+                m_used.push_back(ns);
+        }
         if (!ns->prefix)
             return Chars(name);
         m_name = Chars(ns->prefix);
@@ -157,6 +160,7 @@ private:
     }
 
     xmlDoc* m_target;
+    const xmlNs* m_lastUsed = nullptr;
     std::vector<const xmlNs*> m_used; ///< in the order of their first use
     std::set<const xmlNs*> m_known;   ///< the same
     std::set<const xmlNs*> m_declared;
@@ -166,17 +170,18 @@ private:
     string m_store;
 };
 
-/// Stands in `_private` of a document to which subtrees may be lent.
+/// Stands in `_private` of a document to which subtrees may be lent. Its `psvi`, which nothing else
+/// uses in a tree, is the last subtree that was lent, and `_private` of that one's own document the
+/// subtree before.
 constexpr char kBorrower = 0;
 
 /// The same for a document that is given away. The two differ by address.
 constexpr char kGift = 0;
 
-/// The node behind `node` in document order below `top`, or null. `Enter` tells whether what stands
-/// below `node` counts.
-xmlNode* NextBelow(const xmlNode* top, xmlNode* node, bool enter = true)
+/// The node behind `node` in document order below `top`, or null.
+xmlNode* NextBelow(const xmlNode* top, xmlNode* node)
 {
-    if (enter && IsElement(node) && node->children)
+    if (IsElement(node) && node->children)
         return node->children;
     while (node != top && !node->next)
         node = node->parent;
@@ -325,6 +330,7 @@ Status AppendKeptXml(xmlNode* parent, const KeptXmlPtr& kept)
     kept->prev = parent->last;
     (parent->last ? parent->last->next : parent->children) = kept.get();
     parent->last = kept.get();
+    kept->doc->_private = std::exchange(parent->doc->psvi, kept.get());
     return status::kOk;
 }
 
@@ -341,21 +347,20 @@ XmlGift::~XmlGift()
 XmlLoan::XmlLoan(xmlDoc* doc) : m_doc(doc)
 {
     m_doc->_private = const_cast<char*>(&kBorrower);
+    m_doc->psvi = nullptr;
+    if (!m_doc->dict)
+        m_doc->dict = xmlDictCreate(); // names and short texts are stored once
 }
 
 XmlLoan::~XmlLoan()
 {
-    m_doc->_private = nullptr;
-    xmlNode* const root = xmlDocGetRootElement(m_doc);
-    for (xmlNode* node = root; node;) {
-        const bool isLent = node->doc != m_doc;
-        xmlNode* const next = NextBelow(root, node, !isLent);
-        if (isLent) {
-            xmlUnlinkNode(node);
-            node->parent = AsParent(node->doc);
-        }
-        node = next;
+    while (m_doc->psvi) {
+        xmlNode* lent = static_cast<xmlNode*>(m_doc->psvi);
+        m_doc->psvi = std::exchange(lent->doc->_private, nullptr);
+        xmlUnlinkNode(lent);
+        lent->parent = AsParent(lent->doc);
     }
+    m_doc->_private = nullptr;
 }
 
 } // namespace vantrel

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/Status.h"
+#include "xml/KeptXmlPtr.h"
 #include "xml/XmlPtr.h"
 
 /// XML subtrees that objects keep, from a load to the saves that follow.
@@ -11,15 +12,6 @@
 /// doesn't declare gets its declaration at the top. Entity references become the text that they
 /// stand for.
 namespace vantrel {
-
-/// Releases a kept subtree, with the document of its own if it has one.
-struct ReleaseKeptXml
-{
-    void operator()(xmlNode* node) const;
-};
-
-/// A subtree from `TakeXml` or `CopyXml`.
-using KeptXmlPtr = std::unique_ptr<xmlNode, ReleaseKeptXml>;
 
 /// Keeps `node` of a document that is read: takes it while the document is given away, an `XmlGift`,
 /// and copies it otherwise. Null gives null.
@@ -55,8 +47,9 @@ private:
 };
 
 /// Lets kept subtrees be lent to a document that is saved and released at once, so that a save need
-/// not copy them. Lives between the making of the document and its release, and hands everything
-/// back. While it lives, nothing may be moved in the document, and no lender may go.
+/// not copy them. Lives between the making of the document, whose `_private` and `psvi` it needs,
+/// and its release, and hands everything back. While it lives, nothing may be moved in the document,
+/// and no lender may go. The document gets a dictionary, if it has none.
 class XmlLoan
 {
 public:

@@ -2,6 +2,7 @@
 
 #include "xml/TypedElement.h"
 #include "xml/TypedValue.h"
+#include "xml/XMLWrapper.h"
 #include "xml/XmlValue.h"
 
 #include <cstddef>
@@ -202,3 +203,17 @@ constexpr auto Uuid(const char* name)
 } // namespace member
 
 } // namespace vantrel
+
+template <class T>
+template <std::size_t N>
+void XMLWrapper<T>::SaveTable(const vantrel::MemberRow<T> (&rows)[N])
+{
+    vantrel::SaveRows({ m_node, m_useElementNames }, rows, m_object);
+}
+
+template <class T>
+template <std::size_t N>
+void XMLWrapper<T>::LoadTable(const vantrel::MemberRow<T> (&rows)[N])
+{
+    vantrel::LoadRows({ m_node, m_useElementNames }, rows, m_object);
+}

@@ -28,11 +28,12 @@ xmlNode* AddTypedElement(xmlNode* parent, const char* element, string_view name,
         (void)AddAttribute(added, "Name", string(name));
     if (!*type)
         return added;
-    xmlNewProp(added, XmlChars("dt:dt"), XmlChars(type));
+    (void)AddAttribute(added, "dt:dt", type); // fails for want of memory alone
     string mended;
-    XmlNodePtr value{ xmlNewDocText(added->doc, XmlChars(XmlText(text, mended))) };
-    if (value)
-        xmlAddChild(added, value.release());
+    if (XmlNodePtr value = NewText(added->doc, XmlText(text, mended))) {
+        value->parent = added;
+        added->children = added->last = value.release(); // the first child needs no merging
+    }
     return added;
 }
 
@@ -66,12 +67,8 @@ string_view ElementText(const xmlNode* element)
 
 string_view AttributeText(const xmlNode* element, string_view name, string& store)
 {
-    const xmlAttr* attribute = IsElement(element) ? element->properties : nullptr;
-    for (; attribute; attribute = attribute->next) {
-        if (!attribute->ns && Chars(attribute->name) == name)
-            return ResolvedText(attribute->children, store);
-    }
-    return "";
+    const xmlAttr* attribute = FindAttribute(element, name);
+    return attribute ? ResolvedText(attribute->children, store) : "";
 }
 
 } // namespace vantrel

@@ -295,7 +295,7 @@ Status XMLHelpers<void>::CreateDocument(_xmlDoc** out)
     if (!root)
         return status::kNoMemory;
     xmlDocSetRootElement(doc.get(), root);
-    (void)AddAttribute(root, "xmlns:dt", "urn:schemas-microsoft-com:datatypes");
+    (void)AddAttribute(root, "xmlns:dt", kDataTypesUri);
     *out = doc.release();
     return status::kOk;
 }

@@ -1,12 +1,17 @@
 #pragma once
 
 #include "core/Types.h"
-#include "xml/MemberTable.h"
 #include "xml/XMLHelpers.h"
 
+#include <cstddef>
 #include <string>
 #include <type_traits>
 #include <utility>
+
+namespace vantrel {
+template <class T>
+struct MemberRow; // of xml/MemberTable.h, which defines what runs a table of them
+} // namespace vantrel
 
 /// The persistence of one data class as a sub-element; made on the stack for one operation.
 ///
@@ -123,15 +128,9 @@ protected:
     /// Runs a member table. Statuses of rows are dropped: older files lack members, and those keep
     /// their defaults.
     template <std::size_t N>
-    void SaveTable(const vantrel::MemberRow<T> (&rows)[N])
-    {
-        vantrel::SaveRows({ m_node, m_useElementNames }, rows, m_object);
-    }
+    void SaveTable(const vantrel::MemberRow<T> (&rows)[N]);
     template <std::size_t N>
-    void LoadTable(const vantrel::MemberRow<T> (&rows)[N])
-    {
-        vantrel::LoadRows({ m_node, m_useElementNames }, rows, m_object);
-    }
+    void LoadTable(const vantrel::MemberRow<T> (&rows)[N]);
 
     _xmlNode* m_node = nullptr; ///< holds the members during an operation; not owned
     T& m_object;                ///< not owned
@@ -174,9 +173,9 @@ Status XMLWrapper<T>::SaveToXML(_xmlNode* node, bool direct)
         return status::kBadArgument;
     m_node = node;
     if (!direct && m_useElementNames)
-        m_node = vantrel::AddElement(node, m_name.c_str());
+        (void)Helpers::SaveNode(node, m_name, "", "", "", &m_node); // can't fail on a node
     else if (!direct)
-        m_node = vantrel::AddTypedElement(node, "struct", m_name, "", {});
+        (void)Helpers::SaveNode(node, "struct", m_name, "", "", &m_node);
     return SaveMembers();
 }
 
@@ -185,10 +184,10 @@ Status XMLWrapper<T>::LoadFromXML(_xmlNode* node, bool direct)
 {
     if (!node)
         return status::kBadArgument;
-    m_node = node;
+    m_node = direct ? node : nullptr; // a sub-element that is missing leaves null
     if (!direct && m_useElementNames)
-        m_node = vantrel::FindChildElement(node, m_name);
+        (void)Helpers::LoadNode(node, m_name, "", nullptr, &m_node);
     else if (!direct)
-        m_node = vantrel::FindTypedElement(node, "struct", m_name);
+        (void)Helpers::LoadNode(node, "struct", m_name, nullptr, &m_node);
     return LoadMembers();
 }

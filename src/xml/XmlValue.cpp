@@ -4,6 +4,9 @@
 
 #include <libxml/entities.h>
 
+#include <cstddef>
+#include <cstring>
+
 namespace vantrel {
 
 namespace {
@@ -89,11 +92,33 @@ std::string_view ResolvedText(const xmlNode* list, std::string& store)
     return store;
 }
 
+XmlNodePtr NewText(xmlDoc* doc, const char* text)
+{
+    // In this form a text lies over two fields that only elements use.
+    constexpr std::size_t room = sizeof(xmlNode::properties) + sizeof(xmlNode::psvi);
+    const std::size_t size = std::strlen(text) + 1;
+    XmlNodePtr node{ xmlNewDocText(doc, size > room ? XmlChars(text) : nullptr) };
+    if (node && size <= room) {
+        auto* within = reinterpret_cast<xmlChar*>(node.get()) + offsetof(xmlNode, properties);
+        std::memcpy(within, text, size);
+        node->content = within;
+    }
+    return node;
+}
+
 Status AddAttribute(xmlNode* element, const char* name, const std::string& value)
 {
+    if (!element)
+        return status::kNullPointer;
     std::string mended;
-    const char* text = XmlText(value, mended);
-    return xmlNewProp(element, XmlChars(name), XmlChars(text)) ? status::kOk : status::kNullPointer;
+    XmlNodePtr text = NewText(element->doc, XmlText(value, mended));
+    // Given the text, libxml2 would check its bytes once more and copy them.
+    xmlAttr* attribute = text ? xmlNewProp(element, XmlChars(name), nullptr) : nullptr;
+    if (!attribute)
+        return status::kNullPointer;
+    text->parent = reinterpret_cast<xmlNode*>(attribute);
+    attribute->children = attribute->last = text.release();
+    return status::kOk;
 }
 
 } // namespace vantrel

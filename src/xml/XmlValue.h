@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/Status.h"
+#include "xml/XmlPtr.h"
 
 #include <libxml/tree.h>
 
@@ -79,6 +80,11 @@ const xmlAttr* FindAttribute(const xmlNode* element, std::string_view name);
 /// references resolved. The view is into the document, or into `store` when the text had to be put
 /// together. References that would unfold into more than a document may hold are left out.
 std::string_view ResolvedText(const xmlNode* list, std::string& store);
+
+/// A text node of `doc`, for a text that is fit for a file. A short one lies within its node, as it
+/// does when libxml2 parses compactly, which saves an allocation for most values. Null without
+/// memory.
+XmlNodePtr NewText(xmlDoc* doc, const char* text);
 
 /// Adds an attribute that `element` doesn't have yet, its value made fit for a file. An `element`
 /// that may have it already wants `xmlSetProp`. Gives `status::kNullPointer` when that fails.

@@ -1,7 +1,11 @@
 #include "disc/DSCommandList.h"
 #include "disc/DSDataFile.h"
 #include "disc/DSEncodingParams.h"
+#include "disc/DSMenu.h"
+#include "disc/DSMenuButton.h"
 #include "disc/DSMenuColours.h"
+#include "disc/DSMenuOverlay.h"
+#include "disc/DSMenuText.h"
 #include "disc/DSProjectData.h"
 #include "disc/DSTitle.h"
 #include "support/NodeFixture.h"
@@ -73,7 +77,25 @@ INSTANTIATE_TEST_SUITE_P(Classes, NodeFileForm, testing::Values(
         R"x(<N bkgdCnt="0" bkgdCol="0" emp1Cnt="0" emp1Col="0" emp2Cnt="0" emp2Col="0" pattCnt="0" pattCol="0"/>)x" },
     NodeCase{ "LayoutRect", Make<CLayoutRectNode>,
         R"x(<N bottom="-0.5" left="1e+06" right="0.1" top="2"/>)x",
-        R"x(<N bottom="0" left="0" right="0" top="0"/>)x" }),
+        R"x(<N bottom="0" left="0" right="0" top="0"/>)x" },
+    NodeCase{ "Links", Make<CButtonLinksNode>,
+        R"x(<N left="1" lower="4" right="2" upper="-3"/>)x",
+        R"x(<N left="0" lower="0" right="0" upper="0"/>)x" },
+    NodeCase{ "ActiveRegion", Make<CActiveRgnNode>,
+        R"x(<N bottom="-1.5" left="1" right="3" top="2" valid="1"/>)x",
+        R"x(<N bottom="0" left="0" right="0" top="0" valid="0"/>)x" },
+    NodeCase{ "Menu", Make<CDSMenu>,
+        R"x(<N ID="9" audio="a.ac3" background="b.png" backgroundID="3" btnLayout="0xFFFFFFFF" defaultButton="4" duration="12.5" flag="1 (StillMenu)" label="l" native="1" tag="6 (Chapter|MainTemplate)" templateID="5"/>)x",
+        R"x(<N ID="0" backgroundID="0" btnLayout="0x00000000" defaultButton="0" flag="0 ()" label="" native="0" tag="0 ()" templateID="0"/>)x" },
+    NodeCase{ "Button", Make<CDSMenuButton>,
+        R"x(<N ID="9" anchor="8" buttonStyle="s" buttonTextCache="c" flags="7" label="l" rotation="30" scheme="2" tag="33 (Next|Command)" templateID="6" userdata="-1" x="0.5" y="-0.25" zOrder="-3"/>)x",
+        R"x(<N ID="0" anchor="0" buttonStyle="" buttonTextCache="" flags="0" label="" rotation="0" scheme="0" tag="0 ()" templateID="0" userdata="0" x="0" y="0" zOrder="0"/>)x" },
+    NodeCase{ "Text", Make<CDSMenuText>,
+        R"x(<N ID="9" flags="1" handle="9 (BottomRight)" highlight="5 (unknown)" rotation="-45" tag="3 (Labe|Index)" templateID="6" x="0.5" y="-0.25" zOrder="2"/>)x",
+        R"x(<N ID="0" flags="0" handle="1 (TopLeft)" highlight="0 (None)" rotation="0" tag="0 ()" templateID="0" x="0" y="0" zOrder="0"/>)x" },
+    NodeCase{ "Overlay", Make<CDSMenuOverlay>,
+        R"x(<N ID="9" alphaMask="m.png" corpRectH="0.4" corpRectW="0.3" corpRectX="0.1" corpRectY="0.2" cropRotateMode="1" dynamicScalingFactor="1.5" flags="1" height="2" highlight="2 (Source)" inPoint="-1" label="l" outPoint="3" privateID="4" rotateAngle="5" rotation="6" source="/p/a.png" sourceID="7" sourceType="3 (Title)" stillImage="1" tag="16 (Matte)" templateID="8" width="0.5" x="9" y="10" zOrder="11" zoomMask="0" zoomSource="1"/>)x",
+        R"x(<N ID="0" alphaMask="" corpRectH="1" corpRectW="1" corpRectX="0" corpRectY="0" cropRotateMode="0" dynamicScalingFactor="0" flags="0" height="1" highlight="0 (None)" inPoint="0" label="" outPoint="0" privateID="0" rotateAngle="0" rotation="0" source="" sourceID="0" sourceType="0 (None)" stillImage="0" tag="0 ()" templateID="0" width="1" x="0" y="0" zOrder="0" zoomMask="0" zoomSource="0"/>)x" }),
     [](const auto& row) { return row.param.name; });
 // clang-format on
 

@@ -13,24 +13,9 @@ namespace {
 using Floats = std::vector<float>;
 using Points = std::vector<FPoint>;
 
-/// What `call(out)` makes of a rectangle of sevens; empty when it gives false.
-template <class Call>
-Floats Made(Call call)
+Floats Edges(const FRect& rect)
 {
-    FRect out(7, 7, 7, 7);
-    const bool made = call(out);
-    EXPECT_TRUE(made || out.left + out.top + out.right + out.bottom == 28) << "changed on failure";
-    return made ? Floats{ out.left, out.top, out.right, out.bottom } : Floats();
-}
-
-Floats Union(const FRect& a, const FRect& b)
-{
-    return Made([&](FRect& out) { return UnionRectFloat(out, a, b); });
-}
-
-Floats Extent(const Points& points)
-{
-    return Made([&](FRect& out) { return ComputeExent(points, out); });
+    return { rect.left, rect.top, rect.right, rect.bottom };
 }
 
 /// `v` times `m`, with 1 as the fourth component.
@@ -51,15 +36,17 @@ auto Near(float x, float y, float z)
 
 TEST(Extents, TopIsTheLargerYAndARectangleOfZerosCountsForNothing)
 {
-    EXPECT_THAT(Union({ 0, 10, 10, 0 }, { 5, 20, 15, 5 }), ElementsAre(0, 20, 15, 0));
-    EXPECT_THAT(Union({}, { 5, 5, 5, 5 }), ElementsAre(5, 5, 5, 5));
-    EXPECT_THAT(Union({ -1, 2, 3, -4 }, {}), ElementsAre(-1, 2, 3, -4));
-    EXPECT_THAT(Union({}, {}), ElementsAre());
-    EXPECT_FALSE(FRect(0, 0, NAN, 0).IsEmpty());
-
-    EXPECT_THAT(Extent({}), ElementsAre());
-    EXPECT_THAT(Extent({ { 3, -2 } }), ElementsAre(3, -2, 3, -2));
-    EXPECT_THAT(Extent({ { 0, 1 }, { -4, 0 }, { 0, -3 }, { 2, 0 } }), ElementsAre(-4, 1, 2, -3));
+    FRect out(7, 7, 7, 7);
+    EXPECT_FALSE(UnionRectFloat(out, {}, {}) || ComputeExent({}, out));
+    EXPECT_THAT(Edges(out), ElementsAre(7, 7, 7, 7));
+    EXPECT_TRUE(UnionRectFloat(out, {}, { 5, 20, 15, 5 }));
+    EXPECT_TRUE(UnionRectFloat(out, out, {}));
+    EXPECT_THAT(Edges(out), ElementsAre(5, 20, 15, 5));
+    EXPECT_TRUE(UnionRectFloat(out, { 0, 10, 10, 0 }, out));
+    EXPECT_THAT(Edges(out), ElementsAre(0, 20, 15, 0));
+    EXPECT_FALSE(FRect(0, 0, NAN, 0).IsEmpty() || FRect(1, 1, 1, 1).IsEmpty());
+    EXPECT_TRUE(ComputeExent({ { 0, 1 }, { -4, 0 }, { 0, -3 }, { 2, 0 } }, out));
+    EXPECT_THAT(Edges(out), ElementsAre(-4, 1, 2, -3));
 }
 
 TEST(PlaceCorners, ScalesShiftsTurnsAndShifts)

@@ -5,7 +5,8 @@
 
 #include <string>
 
-/// The words of a summary and all that it says of them, on one line: "'words' style 101 face Arial".
+/// The words of a summary and all that it says of them, on one line: "'words' style 101 face
+/// Arial".
 inline std::string Summary(const TextAttributes& text)
 {
     constexpr const char* digits = "0123456789abcdef";
@@ -30,14 +31,4 @@ inline std::string Summary(const _xmlNode* body)
     TextAttributes attributes;
     EXPECT_EQ(vantrel::SummariseRuns(body, &attributes), status::kOk);
     return Summary(attributes);
-}
-
-/// The document of `node` as a save writes it, indented.
-inline std::string SavedForm(_xmlNode* node)
-{
-    xmlChar* bytes = nullptr;
-    int size = 0;
-    xmlDocDumpFormatMemory(node->doc, &bytes, &size, 1);
-    const vantrel::XmlTextPtr held{ bytes };
-    return std::string(vantrel::Chars(bytes), static_cast<std::size_t>(size));
 }

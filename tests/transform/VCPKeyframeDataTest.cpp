@@ -175,45 +175,31 @@ TEST(Track, MovesReplacesAndDeletesKeys)
     EXPECT_EQ(track.DeleteKey(2, kAllKeyframes), status::kBadArgument);
     EXPECT_EQ(track.DeleteKey(2, S), status::kOk);
     EXPECT_EQ(KeysOf(track), "4@0.5 2@2 ");
-    track.DeleteAllKeys(kAllKeyframes);
-    EXPECT_FALSE(track.HasKeys());
 }
 
-TEST(TrackXml, WritesMapsInOrderAndTakesOverCropMembers)
+TEST(TrackXml, ReadsTheFirstKeyOfATimeAndWritesAllInOrder)
 {
-    const XmlText xml{ "<d><Opacity/><Crop><PresetID>7</PresetID><EditMode/></Crop></d>" };
-    ULongTrack track;
-    track.SetName("Opacity");
-    track.SetValue(0.5, P, 100, 0x1000);
-    track.SetValue(2, S, 0, 0);
-    EXPECT_EQ(track.SaveXML(xml.root()), status::kOk);
-    EXPECT_EQ(TextOf(xml.root()),
-              "<d><Crop><PresetID>7</PresetID><EditMode/></Crop><Opacity>"
-              R"(<EditMode dt:dt="i4">0</EditMode><PresetID dt:dt="i4">7</PresetID>)"
-              R"(<StartOffsetElements><KeyFrame><Time dt:dt="r8">2</Time>)"
-              R"(<Caps dt:dt="ui4">0</Caps><Value dt:dt="ui4">0</Value></KeyFrame>)"
-              R"(</StartOffsetElements><PercentageElements><KeyFrame><Time dt:dt="r8">0.5</Time>)"
-              R"(<Caps dt:dt="ui4">4096</Caps><Value dt:dt="ui4">100</Value></KeyFrame>)"
-              R"(</PercentageElements></Opacity></d>)");
-    track.DeleteAllKeys(kAllKeyframes);
-    track.SaveXML(xml.root());
-    EXPECT_EQ(TextOf(xml.root()), "<d><Crop><PresetID>7</PresetID><EditMode/></Crop></d>");
-}
-
-TEST(TrackXml, AddsKeysOfWhichTheFirstAtATimeStays)
-{
-    const XmlText xml{ R"(<d><StartOffsetElements>
-        <KeyFrame><Time>3</Time><Vector><x>1</x><z>nan</z></Vector></KeyFrame>
-        <KeyFrame><Time>3</Time><Vector><x>2</x></Vector></KeyFrame>
-        <KeyFrame><Time>1e999</Time><Caps>5</Caps></KeyFrame><Other/>
-        <KeyFrame><Time>nan</Time></KeyFrame></StartOffsetElements></d>)" };
-    VectorTrack track = TrackOf("S7=0"); // without a name the element itself holds the maps
+    const XmlText xml{ R"(<d><Scaling><PercentageElements>
+        <KeyFrame><Time>.5</Time><Vector><x>1</x><z>nan</z></Vector></KeyFrame><Other/>
+        <KeyFrame><Time>.5</Time><Vector><x>2</x></Vector></KeyFrame></PercentageElements>
+        <StartOffsetElements><KeyFrame><Time>1e999</Time><Caps>5</Caps></KeyFrame>
+        <KeyFrame><Time>nan</Time></KeyFrame></StartOffsetElements></Scaling>
+        <Crop><PresetID>7</PresetID><EditMode/></Crop></d>)" };
+    VectorTrack track;
+    track.SetName("Scaling");
     EXPECT_EQ(track.LoadXML(nullptr), status::kNothingDone);
     track.LoadXML(xml.root());
-    EXPECT_EQ(KeysOf(track), "1@0 1@3 1@7 ");
-    D3DXVECTOR3 value;
-    unsigned long caps = 9;
-    track.GetValue(3, S, &value, &caps);
-    EXPECT_EQ(value.x, 1);
-    EXPECT_EQ(value.y + value.z + float(caps), 0);
+    EXPECT_EQ(track.SaveXML(xml.root()), status::kOk);
+    EXPECT_EQ(KeysOf(track), "1@0 4@0.5 ");
+    EXPECT_EQ(TextOf(xml.root()->last),
+              R"(<Scaling><EditMode dt:dt="i4">0</EditMode><PresetID dt:dt="i4">7</PresetID>)"
+              R"(<StartOffsetElements><KeyFrame><Time dt:dt="r8">0</Time><Caps dt:dt="ui4">5)"
+              R"(</Caps><Vector Name=""><x dt:dt="r4">0</x><y dt:dt="r4">0</y><z dt:dt="r4">0</z>)"
+              R"(</Vector></KeyFrame></StartOffsetElements><PercentageElements><KeyFrame>)"
+              R"(<Time dt:dt="r8">0.5</Time><Caps dt:dt="ui4">0</Caps><Vector Name="">)"
+              R"(<x dt:dt="r4">1</x><y dt:dt="r4">0</y><z dt:dt="r4">0</z></Vector></KeyFrame>)"
+              R"(</PercentageElements></Scaling>)");
+    track.DeleteAllKeys(kAllKeyframes);
+    track.SaveXML(xml.root());
+    EXPECT_FALSE(vantrel::FindChildElement(xml.root(), "Scaling"));
 }

@@ -43,3 +43,18 @@ TEST(KeptXml, TurnsEntityReferencesIntoTheirText)
     EXPECT_EQ(KeptAndWritten("<!DOCTYPE r [<!ENTITY e 'mid'>]><r><k a='&e;'>x&e;y</k></r>"),
               R"(<k a="mid">xmidy</k>)");
 }
+
+TEST(KeptXml, IsTakenOutOfADocumentThatIsGivenAway)
+{
+    const XmlText xml{ "<r><k>a</k></r>" };
+    EXPECT_EQ(TextOf(KeepXml(xml.root()->children).get()), "<k>a</k>");
+    EXPECT_EQ(TextOf(xml.root()), "<r><k>a</k></r>");
+    KeptXmlPtr taken;
+    {
+        const XmlGift gift(xml.doc());
+        taken = KeepXml(xml.root()->children);
+    }
+    EXPECT_EQ(TextOf(taken.get()), "<k>a</k>");
+    EXPECT_EQ(TextOf(xml.root()), "<r/>");
+    EXPECT_EQ(KeepXml(nullptr), nullptr);
+}

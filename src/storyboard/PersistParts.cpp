@@ -1,4 +1,4 @@
-#include "storyboard/Thumbnail.h"
+#include "storyboard/PersistParts.h"
 
 #include "xml/TypedElement.h"
 #include "xml/TypedValue.h"

@@ -1,0 +1,88 @@
+#include "disc/DSMenu.h"
+#include "disc/DSProjectData.h"
+#include "disc/DSTitle.h"
+#include "project/DSFileService.h"
+#include "support/NodeFixture.h"
+
+using std::string;
+
+namespace {
+
+struct MenuRow
+{
+    long id;
+    unsigned long tag; ///< 1, 2 ordinary; 4, 8 template; 16 neither
+    long templateID;
+};
+
+} // namespace
+
+/// The menus of a project, and the IDs of those that stay.
+struct PruningCase
+{
+    const char* name;
+    std::vector<MenuRow> menus;
+    bool hasTitle;
+    const char* kept;
+};
+class TemplatePruning : public testing::TestWithParam<PruningCase>
+{};
+
+TEST_P(TemplatePruning, KeepsWhatIsUsed)
+{
+    CDSProjectData project;
+    CProjectNode& list = *project.GetChild(1);
+    for (const MenuRow& row : GetParam().menus) {
+        auto menu = std::make_unique<CDSMenu>();
+        menu->SetID(row.id);
+        (void)menu->put_Tag(row.tag);
+        (void)menu->put_TemplateID(row.templateID);
+        list.AdoptChild(std::move(menu), false);
+    }
+    CDSTitle title;
+    if (GetParam().hasTitle)
+        (void)project.AddTitle(0, &title);
+
+    EXPECT_EQ(CDSFileService().RemoveUnusedTemplates(&project), status::kOk);
+    string kept;
+    for (int i = 0; i < list.GetNumChildren(); ++i)
+        kept += (i ? " " : "") + std::to_string(list.GetChild(i)->GetID());
+    EXPECT_EQ(kept, GetParam().kept);
+}
+
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Projects, TemplatePruning, testing::Values(
+    PruningCase{ "NoTemplates", { { 1, 1, 0 }, { 2, 16, 0 } }, false, "1 2" },
+    PruningCase{ "TheUnusedOneGoes", { { 1, 1, 5 }, { 5, 4, 0 }, { 6, 4, 0 } }, false, "1 5" },
+    PruningCase{ "ATemplateOfAUsedOneStays", { { 1, 1, 5 }, { 5, 4, 6 }, { 6, 8, 0 } }, false, "1 5 6" },
+    PruningCase{ "RisingChainsStayWhole", { { 1, 2, 5 }, { 5, 4, 6 }, { 6, 4, 7 }, { 7, 4, 8 }, { 8, 4, 9 }, { 9, 4, 0 } }, false, "1 5 6 7 8 9" },
+    PruningCase{ "FallingChainsStayForThreeLinks", { { 1, 2, 9 }, { 9, 4, 8 }, { 8, 4, 7 }, { 7, 4, 6 }, { 6, 4, 5 }, { 5, 4, 0 } }, false, "1 9 8 7 6" },
+    PruningCase{ "OneMadeFromItself", { { 1, 1, 5 }, { 5, 4, 5 } }, false, "1 5" },
+    PruningCase{ "TwoMadeFromEachOther", { { 1, 1, 5 }, { 5, 4, 6 }, { 6, 4, 5 } }, false, "1 5 6" },
+    PruningCase{ "NothingButTemplates", { { 5, 4, 0 }, { 6, 8, 5 }, { 7, 16, 0 } }, false, "5 6 7" },
+    PruningCase{ "NothingButTemplatesAndATitle", { { 5, 4, 0 }, { 6, 8, 5 }, { 7, 16, 0 } }, true, "7" },
+    PruningCase{ "OneThatIsNoneIsUsed", { { 1, 1, 7 }, { 5, 4, 0 } }, false, "1" },
+    PruningCase{ "ATagOfBothKindsIsOrdinary", { { 1, 5, 6 }, { 6, 4, 0 }, { 7, 4, 0 } }, false, "1 6" },
+    PruningCase{ "OneWithoutAnIdStays", { { 1, 1, 6 }, { 0, 4, 0 }, { 6, 4, 0 } }, false, "1 0 6" },
+    PruningCase{ "AnOrdinaryMenuOfTheSameIdStays", { { 1, 1, 9 }, { 5, 1, 0 }, { 5, 4, 0 } }, false, "1 5" }),
+    [](const auto& row) { return row.param.name; });
+// clang-format on
+
+TEST(TemplatePruning, HappensWithASaveAndLeavesPointersAlive)
+{
+    const ScratchFolder folder;
+    CDSProjectData project;
+    CProjectNode& list = *project.GetChild(1);
+    for (const unsigned long tag : { 1, 4 }) {
+        auto menu = std::make_unique<CDSMenu>();
+        (void)menu->put_Tag(tag);
+        list.AdoptChild(std::move(menu), true);
+    }
+    CDSTitle title;
+    (void)project.AddTitle(0, &title);
+    CProjectNode* const pruned = list.GetChild(1);
+    EXPECT_EQ(CDSFileService().SaveProject(folder / "a.xml", &project), status::kOk);
+    EXPECT_EQ(list.GetNumChildren(), 1);
+    EXPECT_EQ(pruned->GetType(), eNodeMenu);
+    EXPECT_EQ(CDSFileService().RemoveUnusedTemplates(nullptr), status::kNullPointer);
+}
