@@ -51,17 +51,15 @@ void AddNativeAudio(Json& facts, const CNativeInfoImpl& native)
 
 Json EffectFacts(const CEffectInfoImpl& effect)
 {
-    const auto* object = dynamic_cast<const CEffectObject*>(effect.m_whole);
     const auto* motion = dynamic_cast<const CMotionObject*>(effect.m_whole);
     string name;
     if (effect.m_data)
         (void)XMLHelpers<void>::LoadStringNode(effect.m_data, "name", "", &name); // or none
     Json facts{ { "id", effect.m_effectID }, { "kind", motion ? "motion" : "effect" } };
     facts["name"] = name;
-    if (object)
+    if (const auto* object = dynamic_cast<const CSubObjectImpl*>(effect.m_whole))
         AddPlace(facts, *object);
     if (motion) {
-        AddPlace(facts, *motion);
         AddFile(facts, *motion);
         AddParts(facts, *motion);
         AddNativeAudio(facts, *motion);
@@ -89,8 +87,8 @@ void AddParts(Json& facts, const CParentObjectImpl& parent)
     }
     facts["audio"] = Json::array();
     for (const auto& [id, audio] : parent.m_audioList) {
-        if (audio)
-            facts["audio"].push_back(AudioFacts(audio.get()));
+        if (Json sound = AudioFacts(audio.get()); !sound.is_null())
+            facts["audio"].push_back(std::move(sound));
     }
 }
 

@@ -173,9 +173,20 @@ TEST_F(Tool, InfoPrintsMenus)
             Corners     (-1.1, -0.1), (-1.1, -0.7), (-0.3, -0.7), (-0.3, -0.1)
           Overlay 141 Thumbnai, Chapter 1, File, Pictures/chapter-01.png
             Corners     (-0.92, 0.365), (-0.92, 0.035), (-0.48, 0.035), (-0.48, 0.365))");
-    EXPECT_EQ(Lines("        Template    40", "        Encoding"), R"(
+    EXPECT_EQ(Lines("  20 ", "        Button 100"), R"(
+  20    Main menu
+        Tag         Main
         Template    40
-        Duration    30 s)");
+        Duration    30 s
+        Encoding    encoded as the project
+        Commands    Transition(3, 0)
+        Default     100
+        Text 21     "Three Weeks North", Lindholm Serif 44, #F5EFE6, TopMiddle at (0, 0.78)
+          Corners     (-1.2, 0.78), (-1.2, -1.02), (1.2, -1.02), (1.2, 0.78)
+        Overlay 22  Generic, Compass rose, File, Pictures/compass.png
+          Corners     (0.964091, -0.329134), (1.02902, -0.622023), (1.32191, -0.557091), (1.25698, -0.264203))");
+    EXPECT_THAT(m_out,
+                HasSubstr("\n          Overlay 102 Thumbnai, Scene of The Road North, Title 11\n"));
 }
 
 TEST_F(Tool, JsonHoldsMenusAndStoryboards)
@@ -243,8 +254,10 @@ TEST_F(Tool, OddContentIsShownAsItIs)
         "<Root><Project Version='900'><Titles><Title ID='7'/></Titles><Menus><Menu "
         "ID='8'><Elements>"
         "<Text ID='9'><effect><plugin_data><html><body>stringRef:A.b</body></html></plugin_data>"
-        "</effect></Text><Text "
-        "ID='10'/></Elements></Menu></Menus></Project><Productions><Title0007>"
+        "</effect></Text><Text ID='10'/>"
+        "<Text ID='11'><effect><plugin_data><html><body><font color='#10203040'>?</font></body>"
+        "</html></plugin_data></effect></Text></Elements></Menu></Menus></"
+        "Project><Productions><Title0007>"
         "<production/><panels><clip key='0'><baseObject><duration>nan</duration></baseObject>"
         "<parentObject><effects><layer key='1'><effect/></layer><layer key='1'><effect/></layer>"
         "</effects><audioList><audio type='smartsound'/></audioList></parentObject></clip></panels>"
@@ -258,6 +271,7 @@ TEST_F(Tool, OddContentIsShownAsItIs)
     EXPECT_EQ(panel["audio"][0]["file"], "");
     EXPECT_EQ(disc["menus"][0]["texts"][0]["words"], "stringRef:A.b");
     EXPECT_EQ(disc["menus"][0]["texts"][1]["corners"], Json::array());
+    EXPECT_EQ(disc["menus"][0]["texts"][2]["colour"], "#10203040");
     ASSERT_EQ(Run("info " + file), 0);
     EXPECT_THAT(m_out, HasSubstr("0 to unknown s"));
 }
