@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Shows the library at work on a fresh machine: builds the vantrel command, prints the page of an
-# example project, saves the project, and saves what it saved once more.
+# example project, saves the project, saves what it saved once more, and shows a title that an example
+# program builds in memory.
 
 source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 
@@ -25,3 +26,9 @@ say "vantrel save $first $second"
 "$vantrel" save "$first" "$second"
 cmp "$first" "$second"
 say "The second save is the first, byte for byte ($(wc -c <"$second") bytes)"
+
+made=$scratch/made.xml
+say "make_disc $made"
+build/release/examples/make_disc "$made"
+say "vantrel info $made"
+"$vantrel" info "$made"

@@ -19,6 +19,26 @@ Json EnumFact(const std::string& formatted);
 /// which has no more than 32 bits of the number.
 Json FlagsFact(unsigned long number, const std::string& formatted);
 
+/// The number as a file would have it: six significant digits. Null for what is no number.
+Json NumberFact(double value);
+
+/// The same as text, and that of a `NumberFact`.
+std::string NumberText(double value);
+std::string NumberText(const Json& fact);
+
+/// `[x, y]`
+Json PointFact(float x, float y);
+
+/// `{"left": -1.2, "top": 0.8, "right": 1.2, "bottom": -0.9}`
+Json RectFact(const FloatRect& rect);
+
+/// "(-1.2, 0.8)" of a `PointFact`, and "(-1.2, 0.8) to (1.2, -0.9)" of a `RectFact`.
+std::string PointText(const Json& point);
+std::string RectText(const Json& rect);
+
+/// `"#F5EFE6"` from a colour with red in the lowest byte; the highest follows unless it is 0.
+std::string ColourFact(unsigned long colour);
+
 /// What a `get_` answers: `Ask<std::string>(title, &CDSTitle::get_Label)`. The default when it gives
 /// nothing.
 template <class T, class Node, class Getter>

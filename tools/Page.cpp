@@ -105,7 +105,12 @@ void Page::Entry(std::string_view id, std::string_view text)
 
 void Page::Detail(std::string_view name, std::string_view value)
 {
-    Named(kIndent + kIDWidth, name, value);
+    Nested(0, name, value);
+}
+
+void Page::Nested(std::size_t depth, std::string_view name, std::string_view value)
+{
+    Named(kIndent + kIDWidth + depth * kIndent, name, value);
 }
 
 void Page::Named(std::size_t indent, std::string_view name, std::string_view value)
@@ -134,6 +139,11 @@ void Page::Table(const std::vector<std::vector<std::string>>& rows)
         line.erase(line.find_last_not_of(' ') + 1);
         m_text += line + '\n';
     }
+}
+
+std::string Numbered(std::string_view noun, const std::string& number)
+{
+    return std::string(noun) + ' ' + number;
 }
 
 std::string Count(std::size_t count, std::string_view noun)

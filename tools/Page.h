@@ -26,6 +26,9 @@ public:
     /// A named value of the entry above. An empty value is left out.
     void Detail(std::string_view name, std::string_view value);
 
+    /// The same, so many steps below the details.
+    void Nested(std::size_t depth, std::string_view name, std::string_view value);
+
     /// Lines whose cells stand in columns.
     void Table(const std::vector<std::vector<std::string>>& rows);
 
@@ -36,6 +39,9 @@ private:
 
     std::string m_text;
 };
+
+/// "Panel 4".
+std::string Numbered(std::string_view noun, const std::string& number);
 
 /// "1 title", "3 titles".
 std::string Count(std::size_t count, std::string_view noun);

@@ -18,32 +18,14 @@ namespace tool {
 
 namespace {
 
-/// While it lives, what is printed to standard output goes to standard error: some failures inside
-/// the library print there, and the tool's output is for its answers alone.
-class OutputGuard
+/// Makes `original` the file again that `saved` is, and closes that.
+void GiveBack(int saved, int original)
 {
-public:
-    OutputGuard()
-    {
-        std::fflush(stdout);
-        m_output = dup(STDOUT_FILENO);
-        if (m_output >= 0)
-            dup2(STDERR_FILENO, STDOUT_FILENO);
+    if (saved >= 0) {
+        dup2(saved, original);
+        close(saved);
     }
-    OutputGuard(const OutputGuard&) = delete;
-    OutputGuard& operator=(const OutputGuard&) = delete;
-    ~OutputGuard()
-    {
-        std::fflush(stdout);
-        if (m_output >= 0) {
-            dup2(m_output, STDOUT_FILENO);
-            close(m_output);
-        }
-    }
-
-private:
-    int m_output = -1;
-};
+}
 
 /// A file open for reading.
 class OpenFile
@@ -106,9 +88,30 @@ string LoadMessage(const string& path, Status result)
 
 } // namespace
 
+OutputGuard::OutputGuard(Destination destination)
+{
+    std::fflush(stdout);
+    m_output = dup(STDOUT_FILENO);
+    m_errors = dup(STDERR_FILENO);
+    if (destination == kErrors) {
+        dup2(STDERR_FILENO, STDOUT_FILENO);
+    } else if (const int nowhere = open("/dev/null", O_WRONLY | O_CLOEXEC); nowhere >= 0) {
+        dup2(nowhere, STDOUT_FILENO);
+        dup2(nowhere, STDERR_FILENO);
+        close(nowhere);
+    }
+}
+
+OutputGuard::~OutputGuard()
+{
+    std::fflush(stdout);
+    GiveBack(m_output, STDOUT_FILENO);
+    GiveBack(m_errors, STDERR_FILENO);
+}
+
 string Load(const string& path, CDSProjectData& project)
 {
-    const OutputGuard guard;
+    const OutputGuard guard(OutputGuard::kErrors);
     CDSFileService service;
     const Status result = service.LoadProject(path.c_str(), &project);
     return Failed(result) ? LoadMessage(path, result) : string();
@@ -116,7 +119,7 @@ string Load(const string& path, CDSProjectData& project)
 
 string Save(const string& path, CDSProjectData& project)
 {
-    const OutputGuard guard;
+    const OutputGuard guard(OutputGuard::kErrors);
     CDSFileService service;
     const Status result = service.SaveProjectAtomic(path, &project);
     if (!Failed(result))

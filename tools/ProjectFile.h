@@ -8,6 +8,26 @@
 /// failure comes back as a message for a person.
 namespace tool {
 
+/// While it lives, what the library prints goes elsewhere: it tells of some failures on standard
+/// output, and the tool's output is for its answers alone.
+class OutputGuard
+{
+public:
+    enum Destination
+    {
+        kErrors,  ///< standard error
+        kNowhere, ///< for questions, whose answers tell as much; standard error goes there too
+    };
+    explicit OutputGuard(Destination destination);
+    OutputGuard(const OutputGuard&) = delete;
+    OutputGuard& operator=(const OutputGuard&) = delete;
+    ~OutputGuard();
+
+private:
+    int m_output = -1;
+    int m_errors = -1;
+};
+
 /// Loads `path` into `project`. Empty when that went well, else what is wrong with the file.
 std::string Load(const std::string& path, CDSProjectData& project);
 

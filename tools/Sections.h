@@ -24,11 +24,30 @@ void ShowEncoding(Page& page, const Json& encoding);
 /// A title's or menu's set in a few words.
 std::string EncodingText(const Json& encoding);
 
+/// The time line behind a title or menu; null gives null.
+Json StoryboardFacts(CQZBaseSBD* storyboard);
+/// The same of a `CDSTitle` or `CDSMenu`.
+template <class Node>
+Json StoryboardOf(Node& node)
+{
+    CQZBaseSBD* storyboard = nullptr;
+    (void)node.GetProduction(&storyboard); // null tells that there is none
+    return StoryboardFacts(storyboard);
+}
+/// Below the entry of the title or menu.
+void ShowStoryboard(Page& page, const Json& storyboard);
+
 Json TitleFacts(CProjectNode* list);
 void ShowTitles(Page& page, const Json& titles);
 
 Json MenuFacts(CProjectNode* list);
 void ShowMenus(Page& page, const Json& menus);
+
+/// Texts and overlays of a `CDSMenuElementList`; null gives empty arrays.
+Json TextFacts(CProjectNode* elements);
+Json OverlayFacts(CProjectNode* elements);
+/// What stands on `parent`, a menu or button, so many steps below the menu's details.
+void ShowElements(Page& page, std::size_t depth, const Json& parent);
 
 Json DataFileFacts(CProjectNode* list);
 void ShowDataFiles(Page& page, const Json& files);

@@ -20,6 +20,7 @@ Json Facts(CDSTitle& title)
     facts["vobSize"] = Ask<double>(title, &T::get_VOBSize);
     facts["commands"] = CommandFacts(title.FindChildByType(eNodeCommands, ""));
     facts["encoding"] = EncodingFacts(title.FindChildByType(eNodeEncoding, ""));
+    facts["storyboard"] = StoryboardOf(title);
     return facts;
 }
 
@@ -40,6 +41,7 @@ void ShowTitles(Page& page, const Json& titles)
         page.Detail("Tag", NamesOf(title["tag"]));
         page.Detail("Encoding", EncodingText(title["encoding"]));
         page.Detail("Commands", CommandText(title["commands"]));
+        ShowStoryboard(page, title["storyboard"]);
     }
 }
 

@@ -42,6 +42,12 @@ ExitStatus Print(const std::string& text)
     return Complain("standard output", "can't be written");
 }
 
+tool::Json FactsOf(CDSProjectData& project, const std::string& path)
+{
+    const tool::OutputGuard guard(tool::OutputGuard::kNowhere);
+    return tool::ProjectFacts(project, path, tool::FileVersion(path));
+}
+
 /// The report of one file.
 ExitStatus Inform(const std::string& path, bool json, bool first)
 {
@@ -50,7 +56,7 @@ ExitStatus Inform(const std::string& path, bool json, bool first)
     if (!problem.empty())
         return Complain(path, problem);
 
-    const tool::Json facts = tool::ProjectFacts(project, path, tool::FileVersion(path));
+    const tool::Json facts = FactsOf(project, path);
     if (json)
         return Print(tool::Line(facts));
     tool::Page page;

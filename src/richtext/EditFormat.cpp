@@ -72,7 +72,7 @@ EditFormat ParseEditFormat(string_view format)
     EditFormat parsed;
     if (format.size() < 2 || format[1] != ':')
         return parsed;
-    parsed.operation = format.substr(0, 1);
+    parsed.operation = format.front();
     parsed.text = format.substr(2);
     if (parsed.operation != "r")
         ParseElement(parsed.text, parsed);

@@ -124,7 +124,7 @@ Status CVCPTextXMLEditor::EditTextTags(string format, bool)
     m_operation.clear();
     if (!format.starts_with("r:"))
         return status::kNothingDone;
-    m_operation = "r";
+    m_operation = 'r';
     return ReplaceText(format.substr(2));
 }
 

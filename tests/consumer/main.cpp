@@ -8,6 +8,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <initializer_list>
 #include <string>
 
 namespace {
@@ -117,6 +118,61 @@ void UseMenuParts()
     Require(CDSLayout().GetNumberOfLines() == 2, "and two lines");
 }
 
+void UseStoryboard()
+{
+    CQZBaseSBD storyboard;
+    storyboard.NewProduction();
+    CClipObject* clip = storyboard.AddClipPanel(0);
+    clip->m_duration = 5.0;
+    storyboard.AddColorPanel(2)->m_duration = 2.0;
+    storyboard.AddTransition(1)->m_duration = 1.0;
+    Require(getSbdDuration(&storyboard) == 6.0, "a time line has a duration");
+    clip->AddEffect(1, {});
+    clip->AddMotion(1, {})->AddAudio();
+    clip->MarkerAdd(1.0, {}, 0, {});
+    Require(clip->m_layers.size() == 1 && clip->m_markers.size() == 1, "panels carry objects");
+
+    const vantrel::XmlDocPtr doc(xmlReadMemory("<a/>", 4, nullptr, nullptr, 0));
+    xmlNode* root = xmlDocGetRootElement(doc.get());
+    Require(storyboard.SaveProductionToXML(root) == status::kOk, "a storyboard is written");
+    Require(storyboard.LoadProductionFromXML(root) == status::kOk, "and read");
+    std::string version;
+    XMLHelpers<void>::LoadStringNode(root, "version", "", &version);
+    Require(version == "9.0", "typed elements are read");
+}
+
+void UseTransform()
+{
+    CVCPTransformImpl transform;
+    transform.SetDuration(4.0);
+    D3DXMATRIX world;
+    Require(transform.FrameMove(1.0, 0) == status::kOk &&
+                transform.GetWorldMatrix(&world) == status::kOk,
+            "a transform is evaluated");
+    Require(!CQZEffect().exists(), "a handle has no target at first");
+}
+
+void UseElements()
+{
+    CDSMenu menu;
+    CDSMenuButton button;
+    CDSMenuOverlay overlay;
+    CDSMenuText text;
+    menu.GetChild(8)->AddChild(&button, true);
+    for (CProjectNode* element : std::initializer_list<CProjectNode*>{ &overlay, &text })
+        button.GetChild(3)->AddChild(element, true);
+    FloatPoint corners[4];
+    Require(overlay.GetBoundingBox(corners) == status::kOk && corners[0].x == -0.5F,
+            "an overlay has corners");
+    Require(menu.put_DefaultButton(button.GetID()) == status::kOk, "a menu knows its buttons");
+    std::string words;
+    Require(text.getString(&words) == status::kNothingDone, "a text without words has none");
+    FPoint point(1.0F, 2.0F);
+    Require(CMenuOverlayImpl(nullptr).setSize(point.x, point.y) == status::kOk, "parts are there");
+    CVCPTextPlugInHelper helper;
+    Require(helper.GetTextString(&words) == status::kNothingDone, "and the helper of texts");
+}
+
 /// Builds a project, saves it as `path` and loads it again.
 void UseProject(const std::string& path)
 {
@@ -152,6 +208,9 @@ int main(int, char** argv)
     UseFormats();
     UseTree();
     UseMenuParts();
+    UseStoryboard();
+    UseTransform();
+    UseElements();
     UseProject(std::string(argv[0]) + ".xml");
     std::puts("consumer: all families answer");
 }
