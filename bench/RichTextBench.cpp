@@ -34,8 +34,8 @@ XmlDocPtr MakeEffect(long runs)
     for (long run = 0; run < runs; ++run) {
         text += run % 2 == 0
                     ? "<font face=\"Arial\" fontHeight=\"24\" color=\"#ff8000ff\">some words"
-                      "</font>"
-                    : "<b><i>and more</i></b>";
+                      "</font>\n"
+                    : "<b><i>and more</i></b>\n";
     }
     text += "</p></body></html></plugin_data></effect>";
     return XmlDocPtr{ xmlReadMemory(text.data(), static_cast<int>(text.size()), nullptr, nullptr,

@@ -2,7 +2,7 @@
 
 #include "core/Number.h"
 #include "disc/DSTitle.h"
-#include "project/XMLPersistTable.h"
+#include "project/ElementLookup.h"
 #include "xml/DsXml.h"
 #include "xml/XmlPtr.h"
 #include "xml/XmlValue.h"

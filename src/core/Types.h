@@ -4,6 +4,8 @@
 /// Value types that several subsystems share. Menu geometry has y growing upward, so that the top
 /// of a rectangle is the larger y; all coordinates are `float`.
 
+#include "core/Export.h"
+
 #include <cstdint>
 
 /// A point of the menu element model.
@@ -53,8 +55,8 @@ struct FloatRect
 // The node classes copy the one into the other byte for byte.
 static_assert(sizeof(FPoint) == sizeof(FloatPoint) && sizeof(FRect) == sizeof(FloatRect));
 
-/// A vector of three components.
-struct D3DXVECTOR3
+/// A vector of three components. Exported for the sake of the templates that are made of it.
+struct VANTREL_API D3DXVECTOR3
 {
     D3DXVECTOR3() = default; ///< leaves the components unset
     constexpr D3DXVECTOR3(float px, float py, float pz) : x(px), y(py), z(pz) {}

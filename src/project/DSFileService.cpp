@@ -23,7 +23,8 @@ XmlDocPtr MakeProjectDocument()
     XmlDocPtr doc{ xmlNewDoc(XmlChars("1.0")) };
     if (!doc)
         return nullptr;
-    doc->dict = xmlDictCreate(); // a few names stand in it many times; without memory they're copied
+    // A few names stand in it many times; without memory for this they are copied.
+    doc->dict = xmlDictCreate();
     xmlNode* root = xmlNewDocNode(doc.get(), nullptr, XmlChars("Root"), nullptr);
     if (!root)
         return nullptr;

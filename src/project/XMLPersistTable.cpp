@@ -1,5 +1,7 @@
 #include "project/XMLPersistTable.h"
 
+#include "project/ElementLookup.h"
+
 #include <algorithm>
 #include <iterator>
 

@@ -4,7 +4,6 @@
 #include "project/NodeType.h"
 
 #include <string>
-#include <string_view>
 
 /// What an element name of the node tree stands for.
 struct XMLPersistEntry
@@ -26,10 +25,3 @@ VANTREL_API const XMLPersistEntry* FindEntry(eNodeType type);
 
 /// The row of that name, or null.
 VANTREL_API const XMLPersistEntry* FindEntry(std::string element);
-
-namespace vantrel {
-
-/// `FindEntry` by name without a copy of it.
-const XMLPersistEntry* FindElement(std::string_view element);
-
-} // namespace vantrel

@@ -1,8 +1,8 @@
 #include "project/XMLProjectLoader.h"
 
+#include "project/ElementLookup.h"
 #include "project/NodeFactory.h"
 #include "project/ProjectNode.h"
-#include "project/XMLPersistTable.h"
 #include "xml/XmlValue.h"
 
 #include <memory>

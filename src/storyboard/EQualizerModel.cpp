@@ -35,10 +35,9 @@ std::vector<std::pair<long, const xmlNode*>> FindBands(const xmlNode* node, long
         if (index >= 0 && index < count && name == BandName(index))
             bands.emplace_back(index, child);
     }
-    const auto index = [](const auto& band) { return band.first; };
-    std::ranges::stable_sort(bands, {}, index);
-    const auto repeated = std::ranges::unique(bands, {}, index);
-    bands.erase(repeated.begin(), repeated.end());
+    std::ranges::stable_sort(bands, {}, [](const auto& band) { return band.first; });
+    const auto isRepeated = [](const auto& a, const auto& b) { return a.first == b.first; };
+    bands.erase(std::unique(bands.begin(), bands.end(), isRepeated), bands.end());
     return bands;
 }
 

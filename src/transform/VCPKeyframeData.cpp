@@ -39,14 +39,14 @@ D3DXVECTOR3 WeightedSum(const D3DXVECTOR3& a, double f, const D3DXVECTOR3& b, do
     return a * static_cast<float>(f) + b * static_cast<float>(g);
 }
 
-/// The clip time and the value of a key; null as long as none was found.
+/// The clip time and the value of a key; none as long as the time is negative.
 template <class T>
 struct Bound
 {
     double time = -1.0;
     const T* value = nullptr;
 
-    bool IsMissing() const { return time < 0.0; }
+    bool IsMissing() const { return !value || time < 0.0; }
 };
 
 template <class T>
@@ -270,13 +270,13 @@ Status CVCPKeyframeData<T, S>::InterpolateBetweenMaps(double time, T* value) con
             upper = last;
     }
 
-    if (lower.IsMissing() && upper.IsMissing())
-        return status::kFailure;
-    if (upper.IsMissing())
+    if (!lower.IsMissing() && !upper.IsMissing())
+        return vantrel::Give(value, Blend(time, lower, upper));
+    if (!lower.IsMissing())
         return vantrel::Give(value, *lower.value);
-    if (lower.IsMissing())
+    if (!upper.IsMissing())
         return vantrel::Give(value, *upper.value);
-    return vantrel::Give(value, Blend(time, lower, upper));
+    return status::kFailure;
 }
 
 template class CVCPKeyframeData<D3DXVECTOR3, CXmlSaveD3DXVECTOR3>;

@@ -5,9 +5,9 @@
 #include "xml/XMLHelpers.h"
 #include "xml/XmlValue.h"
 
-#include <array>
 #include <iterator>
-#include <optional>
+#include <utility>
+#include <vector>
 
 using namespace vantrel;
 
@@ -18,27 +18,18 @@ constexpr const char* kMapElements[] = { "StartOffsetElements", "EndOffsetElemen
                                          "PercentageElements" };
 static_assert(std::size(kMapElements) == std::size(kKeyframeTypes));
 
+using CropMembers = std::vector<std::pair<const char*, long>>;
+
 /// What a track takes over from a "Crop" element, in the order of the file.
-constexpr const char* kCropMembers[] = { "EditMode", "PresetID" };
-using CropValues = std::array<std::optional<long>, std::size(kCropMembers)>;
-
-CropValues ReadCrop(_xmlNode* crop)
+CropMembers ReadCrop(_xmlNode* crop)
 {
-    CropValues values;
-    for (std::size_t i = 0; i < values.size(); ++i) {
+    CropMembers members;
+    for (const char* name : { "EditMode", "PresetID" }) {
         long value = 0;
-        if (XMLHelpers<void>::LoadLongNode(crop, kCropMembers[i], "", &value) == status::kOk)
-            values[i] = value;
+        if (XMLHelpers<void>::LoadLongNode(crop, name, "", &value) == status::kOk)
+            members.emplace_back(name, value);
     }
-    return values;
-}
-
-void WriteCrop(const CropValues& values, _xmlNode* track)
-{
-    for (std::size_t i = 0; i < values.size(); ++i) {
-        if (values[i])
-            AddValue<typed::Long>(track, kCropMembers[i], *values[i]);
-    }
+    return members;
 }
 
 template <class S, class Map>
@@ -81,12 +72,13 @@ Status CVCPKeyframeData<T, S>::SaveXML(_xmlNode* parent) const
 {
     if (!parent)
         return status::kBadArgument;
-    const CropValues crop = ReadCrop(FindChildElement(parent, "Crop")); // may be what goes next
-    (void)XMLHelpers<void>::RemoveNode(parent, m_name);                 // there may be none yet
+    const CropMembers crop = ReadCrop(FindChildElement(parent, "Crop")); // may be what goes next
+    (void)XMLHelpers<void>::RemoveNode(parent, m_name);                  // there may be none yet
     if (!HasKeys())
         return status::kOk;
     _xmlNode* track = m_name.empty() ? parent : AddElement(parent, m_name.c_str());
-    WriteCrop(crop, track);
+    for (const auto& [name, value] : crop)
+        AddValue<typed::Long>(track, name, value);
     for (std::size_t i = 0; i < std::size(kKeyframeTypes); ++i)
         SaveMap<S>(*GetMap(kKeyframeTypes[i]), kMapElements[i], track);
     return status::kOk;

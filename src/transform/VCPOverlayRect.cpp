@@ -22,6 +22,7 @@ int Pixels(float length)
 
 } // namespace
 
+// NOLINTNEXTLINE(bugprone-virtual-near-miss)
 Status CVCPOverlayRect::SInit(int width, int height, D3DXMATRIX* first, D3DXMATRIX* second)
 {
     if (!first || !second)

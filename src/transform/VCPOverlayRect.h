@@ -12,6 +12,7 @@ class VANTREL_API CVCPOverlayRect : public CVCPTransformImpl, public COverlaysSo
 public:
     /// Takes a frame of `width` by `height` pixels and copies of the two matrices. A null matrix
     /// gives `status::kNullPointer` and changes nothing.
+    // NOLINTNEXTLINE(bugprone-virtual-near-miss): not meant to override `SBInit`, which it calls
     Status SInit(int width, int height, D3DXMATRIX* first, D3DXMATRIX* second);
 
     /// Reads the transform and the text of an effect's data, brings the rectangle into the

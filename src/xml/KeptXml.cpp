@@ -150,13 +150,23 @@ private:
             (void)AddAttribute(element, name.c_str(), string(uri));
     }
 
+    /// Declares what is used and was declared further up, before all attributes: there the next
+    /// load finds every declaration, and a save that follows must look the same.
     void DeclareUsed(xmlNode* top)
     {
+        xmlAttr* const attributes = std::exchange(top->properties, nullptr);
         for (const xmlNs* ns : m_used) {
             const bool builtIn = ns->prefix && std::string_view(Chars(ns->prefix)) == "xml";
             if (!builtIn && !m_declared.contains(ns))
                 AddDeclaration(top, ns);
         }
+        if (!attributes)
+            return;
+        xmlAttr* last = top->properties;
+        while (last && last->next)
+            last = last->next;
+        (last ? last->next : top->properties) = attributes;
+        attributes->prev = last;
     }
 
     xmlDoc* m_target;

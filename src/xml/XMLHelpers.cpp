@@ -277,7 +277,7 @@ Status XMLHelpers<void>::AppendComment(_xmlNode* node, string text)
     string mended;
     string comment = XmlText(text, mended);
     for (std::size_t i = comment.find("--"); i != string::npos; i = comment.find("--", i))
-        comment.insert(i + 1, " ");
+        comment.insert(i + 1, 1, ' ');
     if (comment.ends_with('-'))
         comment += ' ';
     xmlAddChild(node, xmlNewDocComment(node->doc, XmlChars(comment.c_str())));

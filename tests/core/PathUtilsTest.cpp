@@ -53,3 +53,45 @@ TEST(ContentPath, IsCutBehindTheFirstContentFolder)
     EXPECT_EQ(cut("/t/content/b.xml"), "/t/content/b.xml");
     EXPECT_EQ(cut(""), "");
 }
+
+struct ResolveCase
+{
+    const char* name;
+    const char* stored;
+    const char* resolved;
+};
+class ResolveFilePath : public testing::TestWithParam<ResolveCase>
+{};
+
+TEST_P(ResolveFilePath, MakesAPathOfThisMachine)
+{
+    std::string path = GetParam().stored;
+    EXPECT_FALSE(Utils::ResolveFilePath(&path));
+    EXPECT_EQ(path, GetParam().resolved);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Paths, ResolveFilePath,
+    testing::Values(
+        ResolveCase{ "TokenGoes", R"(%CONTENT%\Backgrounds\a.mpg)", "/Backgrounds/a.mpg" },
+        ResolveCase{ "TokenAlone", "%CONTENT%x.mpg", "x.mpg" },
+        ResolveCase{ "NeighboursGoWithIt", R"(a%CONTENT%\x.mpg)", "x.mpg" },
+        ResolveCase{ "NothingBehindTheToken", "a%CONTENT%", "" },
+        ResolveCase{ "TokenElsewhereStays", R"(ab%CONTENT%\x.mpg)", "ab%CONTENT%/x.mpg" },
+        ResolveCase{ "DriveStays", R"(C:\a\b.mpg)", "C:/a/b.mpg" }, ResolveCase{ "Empty", "", "" }),
+    [](const auto& row) { return row.param.name; });
+
+TEST(UnresolveFilePath, PutsTheTokenBackForAFileOfATheme)
+{
+    std::string path = "/themes/Beach/Content/Content/a.mpg";
+    EXPECT_TRUE(Utils::UnresolveFilePath(&path));
+    EXPECT_EQ(path, "%CONTENT%/Content/a.mpg"); // the first folder of that name counts
+    Utils::ResolveFilePath(&path);
+    EXPECT_EQ(path, "/Content/a.mpg");
+
+    std::string other = "/media/Contents/a.mpg";
+    EXPECT_FALSE(Utils::UnresolveFilePath(&other));
+    EXPECT_EQ(other, "/media/Contents/a.mpg");
+    EXPECT_FALSE(Utils::UnresolveFilePath(nullptr));
+    EXPECT_FALSE(Utils::ResolveFilePath(nullptr));
+}

@@ -57,17 +57,17 @@ unsigned long OpacityAt(const ULongTrack& track, double time)
 
 } // namespace
 
-struct Sampling
+struct TrackSampling
 {
     const char* name;
     double duration;
     string keys, samples; ///< samples are clip times and expected values, as "2=10"
 };
 
-class Interpolation : public testing::TestWithParam<Sampling>
+class TrackInterpolation : public testing::TestWithParam<TrackSampling>
 {};
 
-TEST_P(Interpolation, GivesValueAtClipTime)
+TEST_P(TrackInterpolation, GivesValueAtClipTime)
 {
     VectorTrack track = TrackOf(GetParam().keys);
     track.SetDuration(GetParam().duration);
@@ -85,31 +85,31 @@ TEST_P(Interpolation, GivesValueAtClipTime)
 }
 
 // clang-format off
-INSTANTIATE_TEST_SUITE_P(Tracks, Interpolation, testing::Values(
-    Sampling{ "StartKeyAlone", 10, "S2=5", "-1=5 0=5 2=5 9=5" },
-    Sampling{ "EndKeyAlone", 10, "E2=5", "0=5 8=5 9=5 11=5" },
-    Sampling{ "PercentageKeyAlone", 10, "P.2=5", "0=5 2=5 9=5" },
-    Sampling{ "StartKeys", 10, "S1=0 S3=8 S4=-4", "0=0 1=0 1.5=2 3=8 3.25=5 4=-4 9=-4" },
-    Sampling{ "EndKeys", 10, "E1=0 E3=8 E4=-4", "0=-4 6=-4 6.75=5 7=8 8.5=2 9=0 10=0" },
-    Sampling{ "PercentageKeys", 20, "P.1=0 P.3=8 P.4=-4", "0=0 2=0 3=2 6=8 6.5=5 8=-4 19=-4" },
-    Sampling{ "StartThenEnd", 10, "S0=10 E0=20", "0=10 2.5=12.5 5=15 10=20" },
-    Sampling{ "BlendBetweenStartAndEndKeys", 10, "S1=10 S2=20 E2=40 E3=30",
+INSTANTIATE_TEST_SUITE_P(Tracks, TrackInterpolation, testing::Values(
+    TrackSampling{ "StartKeyAlone", 10, "S2=5", "-1=5 0=5 2=5 9=5" },
+    TrackSampling{ "EndKeyAlone", 10, "E2=5", "0=5 8=5 9=5 11=5" },
+    TrackSampling{ "PercentageKeyAlone", 10, "P.2=5", "0=5 2=5 9=5" },
+    TrackSampling{ "StartKeys", 10, "S1=0 S3=8 S4=-4", "0=0 1=0 1.5=2 3=8 3.25=5 4=-4 9=-4" },
+    TrackSampling{ "EndKeys", 10, "E1=0 E3=8 E4=-4", "0=-4 6=-4 6.75=5 7=8 8.5=2 9=0 10=0" },
+    TrackSampling{ "PercentageKeys", 20, "P.1=0 P.3=8 P.4=-4", "0=0 2=0 3=2 6=8 6.5=5 8=-4 19=-4" },
+    TrackSampling{ "StartThenEnd", 10, "S0=10 E0=20", "0=10 2.5=12.5 5=15 10=20" },
+    TrackSampling{ "BlendBetweenStartAndEndKeys", 10, "S1=10 S2=20 E2=40 E3=30",
               "1.5=15 2=20 4.5=25 7=30 7.5=35 8=40 9=40" },
-    Sampling{ "PercentageHoldsBackToStart", 10, "S1=10 P.5=20 P.6=30",
+    TrackSampling{ "PercentageHoldsBackToStart", 10, "S1=10 P.5=20 P.6=30",
               "0=10 1=10 3=20 5=20 5.5=25 8=30" },
-    Sampling{ "BlendFromFirstPercentageToEnd", 10, "P.2=10 P.4=20 E1=50",
+    TrackSampling{ "BlendFromFirstPercentageToEnd", 10, "P.2=10 P.4=20 E1=50",
               "0=10 3=15 4=20 5.5=30 9=50 9.5=50" },
-    Sampling{ "PercentageBetweenStartAndEnd", 10, "S1=10 P.4=20 E1=50",
+    TrackSampling{ "PercentageBetweenStartAndEnd", 10, "S1=10 P.4=20 E1=50",
               ".5=10 2.5=20 4=20 6=32 9=50 10=50" },
-    Sampling{ "EndGoesBeforePercentage", 10, "E4=10 P.8=30", "3=30 6=10 8=10" },
-    Sampling{ "StartKeyBehindPercentage", 10, "P.2=10 S5=20 E1=60", "1=20 5=20 7=40 9=60" },
-    Sampling{ "ClipShorterThanItsKeys", 2, "S1=10 S4=40 E3=70", "0=10 2=20 3=30 4.5=70" },
-    Sampling{ "ClipMadeLonger", 30, "S1=10 P.5=20 E2=30", "1=10 15=20 21.5=25 28=30" },
-    Sampling{ "NegativeStartKeyCountsAsNone", 10, "S-2=10 E2=30", "-2=10 3=30" },
-    Sampling{ "NoDuration", 0, "P.25=10 P.5=20", "0=10 5=10" },
-    Sampling{ "NegativeDuration", -4, "P.25=10 E1=20", "0=20 -5=20 -7=10" },
-    Sampling{ "DurationThatIsNoNumber", NAN, "P.25=10", "0=10 5=10" },
-    Sampling{ "KeysFurtherApartThanADouble", 10, "S-1.7e308=10 S1.7e308=20",
+    TrackSampling{ "EndGoesBeforePercentage", 10, "E4=10 P.8=30", "3=30 6=10 8=10" },
+    TrackSampling{ "StartKeyBehindPercentage", 10, "P.2=10 S5=20 E1=60", "1=20 5=20 7=40 9=60" },
+    TrackSampling{ "ClipShorterThanItsKeys", 2, "S1=10 S4=40 E3=70", "0=10 2=20 3=30 4.5=70" },
+    TrackSampling{ "ClipMadeLonger", 30, "S1=10 P.5=20 E2=30", "1=10 15=20 21.5=25 28=30" },
+    TrackSampling{ "NegativeStartKeyCountsAsNone", 10, "S-2=10 E2=30", "-2=10 3=30" },
+    TrackSampling{ "NoDuration", 0, "P.25=10 P.5=20", "0=10 5=10" },
+    TrackSampling{ "NegativeDuration", -4, "P.25=10 E1=20", "0=20 -5=20 -7=10" },
+    TrackSampling{ "DurationThatIsNoNumber", NAN, "P.25=10", "0=10 5=10" },
+    TrackSampling{ "KeysFurtherApartThanADouble", 10, "S-1.7e308=10 S1.7e308=20",
               "-1e308=10 1e308=20" }),
     [](const auto& row) { return row.param.name; });
 // clang-format on

@@ -58,10 +58,10 @@ struct FrameCase
     D3DXVECTOR3 point;  ///< where the point (1, 2, 3) comes to
 };
 
-class Frame : public testing::TestWithParam<FrameCase>
+class FrameSteps : public testing::TestWithParam<FrameCase>
 {};
 
-TEST_P(Frame, PlacesPoints)
+TEST_P(FrameSteps, PlacesPoints)
 {
     const auto has = [](char letter) { return GetParam().setup.find(letter) != string::npos; };
     Transform transform(has('S') ? "2" : "0");
@@ -86,7 +86,7 @@ TEST_P(Frame, PlacesPoints)
 }
 
 // clang-format off
-INSTANTIATE_TEST_SUITE_P(Steps, Frame, testing::Values(
+INSTANTIATE_TEST_SUITE_P(Setups, FrameSteps, testing::Values(
     FrameCase{ "NoKeys", "", { 0, 0, 0 }, { 1, 2, 3 } },
     FrameCase{ "CentreOfRectangle", "W", { -3, -3, 0 }, { -2, -1, 3 } },
     FrameCase{ "Handles", "hW", { -1.5, -4, 2 }, { -.5, -2, 5 } },

@@ -1,23 +1,50 @@
 #include "xml/KeptXml.h"
 
 #include "support/XmlFixture.h"
+#include "xml/XmlFile.h"
 
+#include <optional>
 #include <string>
 
 using namespace vantrel;
 
 namespace {
 
-/// What a kept copy of the root's first child element looks like in a new file.
+/// The bytes of a new file that gets `kept`, lent or copied, more than once over.
+std::string WrittenFile(const KeptXmlPtr& kept, bool lend)
+{
+    const EmptyXml out;
+    std::string bytes;
+    std::optional<XmlLoan> loan;
+    if (lend)
+        loan.emplace(out.doc());
+    for (int i = 0; i < 2; ++i)
+        EXPECT_EQ(AppendKeptXml(out.root(), kept), status::kOk);
+    EXPECT_TRUE(SerializeXml(out.doc(), &bytes));
+    return bytes;
+}
+
+/// What the root's first child element looks like in a new file when it is kept, taken or copied.
 std::string KeptAndWritten(const char* text)
 {
-    XmlNodePtr kept;
+    XmlNodePtr copy;
+    KeptXmlPtr taken;
     {
         const XmlText xml{ text };
-        kept = CopyXml(NextElement(xml.root()->children));
-    } // the copy must outlive its document
+        xmlNode* child = NextElement(xml.root()->children);
+        copy = CopyXml(child);
+        taken = TakeXml(child);
+        EXPECT_EQ(NextElement(xml.root()->children), nullptr);
+    } // both must outlive their document
     const EmptyXml out;
-    EXPECT_EQ(AppendXmlCopy(out.root(), kept.get()), status::kOk);
+    EXPECT_EQ(AppendXmlCopy(out.root(), copy.get()), status::kOk);
+    EXPECT_EQ(AppendKeptXml(out.root(), taken), status::kOk);
+    EXPECT_EQ(TextOf(out.root()->children), TextOf(out.root()->last));
+
+    const std::string copied = WrittenFile(taken, false);
+    EXPECT_EQ(WrittenFile(taken, true), copied);
+    EXPECT_EQ(WrittenFile(taken, true), copied); // lent things come back
+    EXPECT_EQ(WrittenFile(KeptXmlPtr{ copy.release() }, true), copied);
     return TextOf(out.root()->children);
 }
 
@@ -42,6 +69,33 @@ TEST(KeptXml, TurnsEntityReferencesIntoTheirText)
 {
     EXPECT_EQ(KeptAndWritten("<!DOCTYPE r [<!ENTITY e 'mid'>]><r><k a='&e;'>x&e;y</k></r>"),
               R"(<k a="mid">xmidy</k>)");
+}
+
+TEST(KeptXml, ReferencesThatUnfoldWithoutBoundAreLeftOut)
+{
+    std::string text = "<!DOCTYPE r [<!ENTITY a '" + std::string(2000, 'x') + "'>]><r><k>";
+    for (int i = 0; i < 600; ++i)
+        text += "&a;";
+    const XmlText xml{ text + "end</k></r>" };
+    const KeptXmlPtr kept = TakeXml(xml.root()->children);
+    EXPECT_EQ(TextOf(kept.get()), "<k>" + std::string(1'000'000, 'x') + "end</k>");
+}
+
+TEST(KeptXml, ReleasedLenderOrFileLeavesNoTrace)
+{
+    EXPECT_EQ(TakeXml(nullptr), nullptr);
+    EXPECT_EQ(CopyXml(nullptr), nullptr);
+    const EmptyXml out;
+    EXPECT_EQ(AppendXmlCopy(out.root(), nullptr), status::kNullPointer);
+    EXPECT_EQ(AppendXmlCopy(nullptr, out.root()), status::kNullPointer);
+
+    // A tree that a program built, without a dictionary, and with a name that needs its prefix.
+    const EmptyXml built;
+    const xmlNs* dt = xmlNewNs(built.root(), XmlChars(kDataTypesUri), XmlChars("dt"));
+    xmlNode* child = xmlNewChild(built.root(), nullptr, XmlChars("k"), XmlChars("v"));
+    xmlNewNsProp(child, const_cast<xmlNs*>(dt), XmlChars("dt"), XmlChars("i4"));
+    const KeptXmlPtr kept = TakeXml(child);
+    EXPECT_EQ(TextOf(kept.get()), R"(<k dt:dt="i4">v</k>)");
 }
 
 TEST(KeptXml, IsTakenOutOfADocumentThatIsGivenAway)

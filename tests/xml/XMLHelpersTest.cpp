@@ -1,0 +1,253 @@
+#include "xml/XMLHelpers.h"
+
+#include "support/XmlFixture.h"
+
+#include <functional>
+#include <limits>
+
+using Helpers = XMLHelpers<void>;
+
+namespace {
+
+/// What a save adds to an empty element.
+std::string Written(const std::function<Status(_xmlNode*)>& save)
+{
+    const EmptyXml xml{ "P" };
+    EXPECT_EQ(save(xml.root()), status::kOk);
+    return xml.root()->children ? TextOf(xml.root()->children) : "";
+}
+
+/// What a load makes of `<v>text</v>`, starting from `value`.
+template <class T>
+T Loaded(Status (*load)(_xmlNode*, std::string, std::string, T*), std::string_view text, T value,
+         Status expected = status::kOk)
+{
+    const XmlText xml{ "<P><v>" + std::string(text) + "</v></P>" };
+    EXPECT_EQ(load(xml.root(), "v", "", &value), expected) << text;
+    return value;
+}
+
+template <class T>
+T Loaded(Status (*load)(_xmlNode*, std::string, std::string, T&), std::string_view text, T value,
+         Status expected = status::kOk)
+{
+    const XmlText xml{ "<P><v>" + std::string(text) + "</v></P>" };
+    EXPECT_EQ(load(xml.root(), "v", "", value), expected) << text;
+    return value;
+}
+
+constexpr _GUID kGuid = { 0x01234567, 0x89AB, 0xCDEF, { 0, 1, 2, 3, 0xFC, 0xFD, 0xFE, 0xFF } };
+
+std::string GuidText(const _GUID& guid)
+{
+    return Written([&](_xmlNode* p) { return Helpers::SaveUUIDNode(p, "v", "", guid); });
+}
+
+} // namespace
+
+TEST(XMLHelpers, WritesEachKindWithItsTypeWord)
+{
+    char bytes[] = { '\x00', '\x7f', '\xff' };
+    const struct
+    {
+        std::function<Status(_xmlNode*)> save;
+        const char* text;
+    } cases[] = {
+        { [](_xmlNode* p) { return Helpers::SaveLongNode(p, "v", "", -12); },
+          R"(<v dt:dt="i4">-12</v>)" },
+        { [](_xmlNode* p) { return Helpers::SaveULongNode(p, "v", "", ~0UL); },
+          R"(<v dt:dt="ui4">18446744073709551615</v>)" },
+        { [](_xmlNode* p) { return Helpers::SaveDoubleNode(p, "v", "", 1234567.5); },
+          R"(<v dt:dt="r8">1.23457e+06</v>)" },
+        { [](_xmlNode* p) { return Helpers::SaveFloatNode(p, "v", "", 0.1F); },
+          R"(<v dt:dt="r4">0.1</v>)" },
+        { [](_xmlNode* p) { return Helpers::SaveBoolNode(p, "v", "", true); },
+          R"(<v dt:dt="boolean">1</v>)" },
+        { [](_xmlNode* p) { return Helpers::SaveStringNode(p, "v", "", "a < \x01\xC3\xBC"); },
+          "<v dt:dt=\"string\">a &lt; \xEF\xBF\xBD\xC3\xBC</v>" },
+        { [](_xmlNode* p) { return Helpers::SaveInt2Node(p, "v", "", -7); },
+          R"(<v dt:dt="i2">-7</v>)" },
+        { [](_xmlNode* p) { return Helpers::SaveUInt2Node(p, "v", "", 65535); },
+          R"(<v dt:dt="ui2">65535</v>)" },
+        { [&](_xmlNode* p) { return Helpers::SaveBlobNode(p, "v", "", bytes, 3); },
+          R"(<v dt:dt="bin.hex">007fff</v>)" },
+        { [](_xmlNode* p) { return Helpers::SaveCOLORREFNode(p, "v", "", 0xABC); },
+          R"(<v dt:dt="string">#000abc</v>)" },
+        { [](_xmlNode* p) { return Helpers::SaveCOLORREFNode(p, "v", "", 0xFF123456); },
+          R"(<v dt:dt="string">#ff123456</v>)" },
+        { [](_xmlNode* p) { return Helpers::SaveUUIDNode(p, "v", "", kGuid); },
+          R"(<v dt:dt="uuid">{01234567-89AB-CDEF-0001-0203FCFDFEFF}</v>)" },
+        { [](_xmlNode* p) { return Helpers::SaveNode(p, "v", "n", "", "gone", nullptr); },
+          R"(<v Name="n"/>)" },
+        { [](_xmlNode* p) {
+             D3DXVECTOR3 vector(1.0F, -0.5F, 0.0F);
+             return Helpers::SaveD3DVECTOR3Node(p, "v", "", &vector);
+         },
+          R"(<v Name=""><x dt:dt="r4">1</x><y dt:dt="r4">-0.5</y><z dt:dt="r4">0</z></v>)" },
+    };
+    for (const auto& row : cases)
+        EXPECT_EQ(Written(row.save), row.text);
+}
+
+TEST(XMLHelpers, ReadsNumbersAsTheCLibraryDoes)
+{
+    constexpr long highest = std::numeric_limits<long>::max();
+    EXPECT_EQ(Loaded(Helpers::LoadLongNode, "12abc", 5L), 12);
+    EXPECT_EQ(Loaded(Helpers::LoadLongNode, "", 5L), 0);
+    EXPECT_EQ(Loaded(Helpers::LoadLongNode, "<c/>12", 5L), 0); // only the first child counts
+    EXPECT_EQ(Loaded(Helpers::LoadLongNode, "9223372036854775807", 5L), highest);
+    // Negative numbers that were written as unsigned ones come back as they were.
+    EXPECT_EQ(Loaded(Helpers::LoadLongNode, "18446744073709551615", 5L), -1);
+    EXPECT_EQ(Loaded(Helpers::LoadULongNode, "18446744073709551615", 5UL), ~0UL);
+    EXPECT_EQ(Loaded(Helpers::LoadULongNode, "-2", 5UL), ~0UL - 1);
+    EXPECT_EQ(Loaded(Helpers::LoadDoubleNode, " 2.5e1x", 5.0), 25.0);
+    EXPECT_EQ(Loaded(Helpers::LoadFloatNode, "1e300", 5.0F),
+              std::numeric_limits<float>::infinity());
+    EXPECT_EQ(Loaded<short>(Helpers::LoadInt2Node, "-3", 5), -3);
+    EXPECT_EQ(Loaded<unsigned short>(Helpers::LoadUInt2Node, "65535", 5), 65535);
+    EXPECT_TRUE(Loaded(Helpers::LoadBoolNode, "1", false));
+    EXPECT_FALSE(Loaded(Helpers::LoadBoolNode, "true", true));
+    EXPECT_FALSE(Loaded(Helpers::LoadBoolNode, "01", true));
+    EXPECT_EQ(Loaded<std::string>(Helpers::LoadStringNode, "", "former"), "");
+}
+
+TEST(XMLHelpers, ReadsColoursAndIdentifiers)
+{
+    EXPECT_EQ(Loaded(Helpers::LoadCOLORREFNode, "#00FF7f", 5UL), 0xFF7F);
+    EXPECT_EQ(Loaded(Helpers::LoadCOLORREFNode, "00FF7f", 5UL), 5);
+    EXPECT_EQ(Loaded(Helpers::LoadCOLORREFNode, "#green", 5UL), 5);
+
+    for (const char* text :
+         { "{01234567-89AB-CDEF-0001-0203FCFDFEFF}", "01234567-89ab-cdef-0001-0203fcfdfeff" })
+        EXPECT_EQ(GuidText(Loaded(Helpers::LoadUUIDNode, text, _GUID())), GuidText(kGuid));
+    for (const char* text : { "", "{}", "{", "{01234567-89AB-CDEF-0001-0203FCFDFEFF",
+                              "01234567-89AB-CDEF-0001-0203FCFDFEF", "0123456789ABCDEF00010203",
+                              "{01234567-89AB-CDEF-0001-0203FCFDFEFG}" })
+        EXPECT_EQ(GuidText(Loaded(Helpers::LoadUUIDNode, text, kGuid, status::kBadArgument)),
+                  GuidText(kGuid));
+}
+
+struct BlobCase
+{
+    const char* name;
+    const char* text;
+    Status result;
+    unsigned long size; ///< of a buffer that takes 3 bytes, afterwards
+    std::string bytes;
+};
+class LoadBlob : public testing::TestWithParam<BlobCase>
+{};
+
+TEST_P(LoadBlob, FillsNoMoreThanThereIsRoomFor)
+{
+    const XmlText xml{ std::string("<P><v>") + GetParam().text + "</v></P>" };
+    std::string bytes = "...!";
+    unsigned long size = 3;
+    EXPECT_EQ(Helpers::LoadBlobNode(xml.root(), "v", "", bytes.data(), size), GetParam().result);
+    EXPECT_EQ(size, GetParam().size);
+    EXPECT_EQ(bytes, GetParam().bytes);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Texts, LoadBlob,
+    testing::Values(BlobCase{ "EitherCaseAndSpace", " 4a\n4B ", status::kOk, 2, "JK.!" },
+                    BlobCase{ "MoreThanRoom", "4142434445", status::kOk, 3, "ABC!" },
+                    BlobCase{ "Empty", "", status::kOk, 0, "...!" },
+                    BlobCase{ "OddDigits", "414", status::kBadArgument, 3, "...!" },
+                    BlobCase{ "BadDigitBehindTheRoom", "4142434g", status::kBadArgument, 3,
+                              "...!" }),
+    [](const auto& row) { return row.param.name; });
+
+TEST(XMLHelpers, MissingElementsAndParentsLeaveTheOutputAlone)
+{
+    const XmlText xml{ "<P/>" };
+    long number = 5;
+    std::string text = "former";
+    _xmlNode* element = xml.root();
+    unsigned long size = 1;
+    char byte = '?';
+    D3DXVECTOR3 vector(1.0F, 2.0F, 3.0F);
+    Helpers::Attributes wanted = { { "key", "former" } };
+    EXPECT_EQ(Helpers::LoadLongNode(xml.root(), "v", "", &number), status::kNothingDone);
+    EXPECT_EQ(Helpers::LoadLongNode(nullptr, "v", "", &number), status::kBadArgument);
+    EXPECT_EQ(Helpers::LoadNode(xml.root(), "v", "", &text, &element), status::kNothingDone);
+    EXPECT_EQ(Helpers::LoadNode(xml.root(), "v", wanted, &element), status::kNothingDone);
+    EXPECT_EQ(Helpers::LoadBlobNode(xml.root(), "v", "", &byte, size), status::kNothingDone);
+    EXPECT_EQ(Helpers::LoadD3DVECTOR3Node(xml.root(), "v", "", &vector), status::kFailure);
+    EXPECT_EQ(Helpers::SaveLongNode(nullptr, "v", "", 1), status::kBadArgument);
+    EXPECT_EQ(Helpers::SaveD3DVECTOR3Node(nullptr, "v", "", &vector), status::kBadArgument);
+    EXPECT_EQ(number, 5);
+    EXPECT_EQ(text, "former");
+    EXPECT_EQ(element, xml.root());
+    EXPECT_EQ(size, 1U);
+    EXPECT_EQ(vector.y, 2.0F);
+    EXPECT_EQ(wanted["key"], "former");
+}
+
+TEST(XMLHelpers, NameSelectsAmongElements)
+{
+    const XmlText xml{ "<P><a><v Name='x'>1</v><v>2</v><v Name='y\"]'>3</v></a></P>" };
+    long value = 0;
+    EXPECT_EQ(Helpers::LoadLongNode(xml.root(), "a/v", "y\"]", &value), status::kOk);
+    EXPECT_EQ(value, 3);
+    EXPECT_EQ(Helpers::LoadLongNode(xml.root(), "a/v", "", &value), status::kOk);
+    EXPECT_EQ(value, 1);
+    EXPECT_EQ(Helpers::LoadLongNode(xml.root(), "a/v", "z", &value), status::kNothingDone);
+}
+
+TEST(XMLHelpers, VectorsWithoutAComponentHaveZeroThere)
+{
+    const XmlText xml{ "<P><v><y>2.5</y></v></P>" };
+    D3DXVECTOR3 vector(1.0F, 1.0F, 1.0F);
+    EXPECT_EQ(Helpers::LoadD3DVECTOR3Node(xml.root(), "v", "", &vector), status::kOk);
+    EXPECT_EQ(vector.x, 0.0F);
+    EXPECT_EQ(vector.y, 2.5F);
+    EXPECT_EQ(vector.z, 0.0F);
+}
+
+TEST(XMLHelpers, AttributesComeAndGoThroughAMap)
+{
+    const EmptyXml xml{ "P" };
+    Helpers::Attributes written = { { "b", "2 \"<" }, { "a", "1" } };
+    _xmlNode* element = nullptr;
+    EXPECT_EQ(Helpers::SaveNode(xml.root(), "v", written, &element), status::kOk);
+    EXPECT_EQ(TextOf(xml.root()), "<P><v a=\"1\" b=\"2 &quot;&lt;\"/></P>");
+
+    Helpers::Attributes wanted = { { "b", "" }, { "missing", "former" } };
+    EXPECT_EQ(Helpers::LoadNode(xml.root(), "v", wanted, nullptr), status::kOk);
+    EXPECT_EQ(wanted, (Helpers::Attributes{ { "b", "2 \"<" }, { "missing", "" } }));
+
+    Helpers::Attributes bad = { { "a b", "1" } };
+    EXPECT_EQ(Helpers::SaveNode(xml.root(), "w", bad, nullptr), status::kBadArgument);
+    EXPECT_EQ(xml.root()->last, element); // nothing was attached
+}
+
+TEST(XMLHelpers, CommentsCanAlwaysBeReadBack)
+{
+    const EmptyXml xml{ "P" };
+    EXPECT_EQ(Helpers::AppendComment(xml.root(), "a---b-"), status::kOk);
+    EXPECT_EQ(TextOf(xml.root()), "<P><!--a- - -b- --></P>");
+    EXPECT_EQ(Helpers::AppendComment(nullptr, "a"), status::kBadArgument);
+}
+
+TEST(XMLHelpers, DocumentIsMadeOnce)
+{
+    _xmlDoc* doc = nullptr;
+    EXPECT_EQ(Helpers::CreateDocument(nullptr), status::kBadArgument);
+    EXPECT_EQ(Helpers::CreateDocument(&doc), status::kOk);
+    const vantrel::XmlDocPtr owner{ doc };
+    EXPECT_EQ(TextOf(xmlDocGetRootElement(doc)),
+              R"(<Root xmlns:dt="urn:schemas-microsoft-com:datatypes"/>)");
+    EXPECT_EQ(Helpers::CreateDocument(&doc), status::kOk);
+    EXPECT_EQ(doc, owner.get());
+}
+
+TEST(XMLHelpers, RemoveNodeTakesAllElementsOfAName)
+{
+    const XmlText xml{ "<P>text<a/><b/>more<a><a/></a></P>" };
+    EXPECT_EQ(Helpers::RemoveNode(xml.root(), "a"), status::kOk);
+    EXPECT_EQ(Helpers::RemoveNode(xml.root(), "text"), status::kNothingDone);
+    EXPECT_EQ(Helpers::RemoveNode(xml.root(), ""), status::kNothingDone);
+    EXPECT_EQ(TextOf(xml.root()), "<P>text<b/>more</P>");
+    EXPECT_EQ(Helpers::RemoveNode(nullptr, "a"), status::kBadArgument);
+}
