@@ -32,14 +32,14 @@ TEST(QZBaseSBD, NullArgumentsChangeNothing)
 {
     CQZBaseSBD sbd;
     sbd.NewProduction();
-    sbd.m_workingPath = "/work";
+    sbd.m_workingPath = "/videos";
     EXPECT_EQ(sbd.LoadProductionFromXML(nullptr), status::kBadArgument);
     EXPECT_EQ(sbd.SaveProductionToXML(nullptr), status::kBadArgument);
     EXPECT_EQ(sbd.PersistXML(nullptr, true), status::kBadArgument);
     EXPECT_EQ(sbd.GetProductionObj(nullptr), status::kBadArgument);
     EXPECT_EQ(sbd.get_Version(nullptr), status::kBadArgument);
     EXPECT_EQ(sbd.GetPanelBaseObject(0, nullptr), status::kBadArgument);
-    EXPECT_EQ(sbd.m_workingPath, "/work");
+    EXPECT_EQ(sbd.m_workingPath, "/videos");
     EXPECT_EQ(sbd.m_nextID, 1);
 }
 
@@ -48,9 +48,9 @@ TEST(QZBaseSBD, CloseResetsCountersAndKeepsObjects)
     CQZBaseSBD sbd;
     sbd.NewProduction();
     sbd.AddClipPanel(0);
-    sbd.m_workingPath = "/work";
+    sbd.m_workingPath = "/videos";
     SavedFile(sbd);
-    EXPECT_EQ(sbd.m_workingPath, "/work");
+    EXPECT_EQ(sbd.m_workingPath, "/videos");
     EXPECT_EQ(sbd.CloseProduction(), status::kOk);
     EXPECT_EQ(sbd.m_workingPath, "");
     EXPECT_EQ(sbd.m_nextID, 0);
