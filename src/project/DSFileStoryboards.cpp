@@ -133,7 +133,8 @@ Status CDSFileService::PersistProductionXML(_xmlNode* productions, CQZBaseSBD* s
         (void)storyboard->LoadProductionFromXML(FindChildElement(productions, name));
         return status::kOk;
     }
-    XmlNodePtr element{ xmlNewDocNode(productions->doc, nullptr, XmlChars(name.c_str()), nullptr) };
+    // Made outside of the document, whose dictionary has no use for thousands of names met once.
+    XmlNodePtr element{ xmlNewNode(nullptr, XmlChars(name.c_str())) };
     if (element && xmlAddChild(productions, element.get()))
         (void)storyboard->SaveProductionToXML(element.release()); // told by what is in the file
     return status::kOk;
