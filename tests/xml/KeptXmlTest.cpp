@@ -97,3 +97,18 @@ TEST(KeptXml, ReleasedLenderOrFileLeavesNoTrace)
     const KeptXmlPtr kept = TakeXml(child);
     EXPECT_EQ(TextOf(kept.get()), R"(<k dt:dt="i4">v</k>)");
 }
+
+TEST(KeptXml, IsTakenOutOfADocumentThatIsGivenAway)
+{
+    const XmlText xml{ "<r><k>a</k></r>" };
+    EXPECT_EQ(TextOf(KeepXml(xml.root()->children).get()), "<k>a</k>");
+    EXPECT_EQ(TextOf(xml.root()), "<r><k>a</k></r>");
+    KeptXmlPtr taken;
+    {
+        const XmlGift gift(xml.doc());
+        taken = KeepXml(xml.root()->children);
+    }
+    EXPECT_EQ(TextOf(taken.get()), "<k>a</k>");
+    EXPECT_EQ(TextOf(xml.root()), "<r/>");
+    EXPECT_EQ(KeepXml(nullptr), nullptr);
+}
