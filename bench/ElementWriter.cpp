@@ -1,6 +1,50 @@
 #include "ElementWriter.h"
 
+#include <cstdio>
+
+using std::string;
+
 namespace bench {
+
+namespace {
+
+void AppendEscaped(string& out, std::string_view text, const char* quote)
+{
+    for (const char c : text) {
+        switch (c) {
+        case '&':
+            out += "&amp;";
+            break;
+        case '<':
+            out += "&lt;";
+            break;
+        case '>':
+            out += "&gt;";
+            break;
+        case '"':
+            out += quote;
+            break;
+        default:
+            out += c;
+        }
+    }
+}
+
+} // namespace
+
+string Escaped(std::string_view text)
+{
+    string out;
+    AppendEscaped(out, text, "\"");
+    return out;
+}
+
+string NumberText(double number)
+{
+    char text[32];
+    std::snprintf(text, sizeof text, "%g", number);
+    return text;
+}
 
 void ElementWriter::Open(const char* name)
 {
@@ -14,25 +58,29 @@ void ElementWriter::Open(const char* name)
 void ElementWriter::Attribute(const char* name, std::string_view text)
 {
     m_text.append(" ").append(name).append("=\"");
-    for (const char c : text) {
-        switch (c) {
-        case '&':
-            m_text += "&amp;";
-            break;
-        case '<':
-            m_text += "&lt;";
-            break;
-        case '>':
-            m_text += "&gt;";
-            break;
-        case '"':
-            m_text += "&quot;";
-            break;
-        default:
-            m_text += c;
-        }
-    }
+    AppendEscaped(m_text, text, "&quot;");
     m_text += '"';
+}
+
+void ElementWriter::Value(const char* name, const char* type, std::string_view text)
+{
+    EndStartTag();
+    Indent();
+    m_text.append("<").append(name).append(" dt:dt=\"").append(type).append("\">");
+    AppendEscaped(m_text, text, "\"");
+    m_text.append("</").append(name).append(">\n");
+}
+
+void ElementWriter::Value(const char* name, const char* type, double number)
+{
+    Value(name, type, NumberText(number));
+}
+
+void ElementWriter::Line(std::string_view text)
+{
+    EndStartTag();
+    Indent();
+    m_text.append(text).append("\n");
 }
 
 void ElementWriter::Close()

@@ -7,6 +7,12 @@
 
 namespace bench {
 
+/// Text of an element, with special characters escaped.
+std::string Escaped(std::string_view text);
+
+/// Six significant digits, as a project file has them.
+std::string NumberText(double number);
+
 /// Writes elements as text in the form that a saved project has: two blanks a level, special
 /// characters of attributes escaped, "/>" for an element without content. It knows nothing of the
 /// library, so that what it writes tests what the library writes.
@@ -25,6 +31,16 @@ public:
         Attribute(name, std::string_view(std::to_string(value)));
     }
     void Close();
+
+    /// A typed element: "dt:dt" tells its type, `text` is its content.
+    void Value(const char* name, const char* type, std::string_view text);
+    void Value(const char* name, const char* type, double number);
+    void Value(const char* name, const char* type, std::integral auto number)
+    {
+        Value(name, type, std::string_view(std::to_string(number)));
+    }
+    /// A line of its own that needs no escaping.
+    void Line(std::string_view text);
 
     /// Takes over what another writer wrote, as content of the element opened last.
     void Content(const ElementWriter& elements);

@@ -4,6 +4,24 @@
 
 namespace bench {
 
+namespace {
+
+std::string NameInFile(const xmlAttr& attribute)
+{
+    const char* name = reinterpret_cast<const char*>(attribute.name);
+    const char* prefix =
+        attribute.ns ? reinterpret_cast<const char*>(attribute.ns->prefix) : nullptr;
+    return prefix ? std::string(prefix) + ":" + name : name;
+}
+
+/// An empty string has a text too, though nothing of it shows after parsing but its type.
+bool IsStringType(const xmlAttr& attribute, const xmlChar* value)
+{
+    return attribute.ns && xmlStrEqual(value, BAD_CAST "string");
+}
+
+} // namespace
+
 PlainTree::PlainTree(const xmlDoc* doc)
 {
     if (const xmlNode* root = xmlDocGetRootElement(doc))
@@ -31,6 +49,9 @@ xmlDoc* PlainTree::Build() const
         case kText:
             xmlAddChild(current, xmlNewText(TextAt(step.value)));
             break;
+        case kComment:
+            xmlAddChild(current, xmlNewComment(TextAt(step.value)));
+            break;
         case kClose:
             current = current->parent;
             break;
@@ -47,15 +68,24 @@ void PlainTree::TakeElement(const xmlNode* element)
     for (xmlAttr* attribute = element->properties; attribute; attribute = attribute->next) {
         const std::unique_ptr<xmlChar, void (*)(void*)> value(
             xmlNodeListGetString(attribute->doc, attribute->children, 1), xmlFree);
-        Add(kAttribute, attribute->name, value.get());
+        Add(kAttribute, BAD_CAST NameInFile(*attribute).c_str(), value.get());
+        if (!element->children && IsStringType(*attribute, value.get()))
+            Add(kText, nullptr, BAD_CAST "");
     }
-    for (const xmlNode* child = element->children; child; child = child->next) {
-        if (child->type == XML_ELEMENT_NODE)
-            TakeElement(child);
-        else if (child->type == XML_TEXT_NODE && !xmlIsBlankNode(child))
-            Add(kText, nullptr, child->content);
-    }
+    for (const xmlNode* child = element->children; child; child = child->next)
+        TakeChild(child);
     Add(kClose, nullptr, nullptr);
+}
+
+void PlainTree::TakeChild(const xmlNode* child)
+{
+    const bool isRichText = xmlStrEqual(child->parent->name, BAD_CAST "html"); // blanks count there
+    if (child->type == XML_ELEMENT_NODE)
+        TakeElement(child);
+    else if (child->type == XML_COMMENT_NODE)
+        Add(kComment, nullptr, child->content);
+    else if (child->type == XML_TEXT_NODE && (isRichText || !xmlIsBlankNode(child)))
+        Add(kText, nullptr, child->content);
 }
 
 void PlainTree::Add(Kind kind, const xmlChar* name, const xmlChar* value)

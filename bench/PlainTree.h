@@ -7,8 +7,8 @@
 
 namespace bench {
 
-/// The content of a project file as plain data, without white space between elements: what a program
-/// without a model would have in memory before it saves.
+/// The content of a project file as plain data, without white space between elements: what
+/// a program without a model would have in memory before it saves.
 class PlainTree
 {
 public:
@@ -23,6 +23,7 @@ private:
         kOpen,
         kAttribute,
         kText,
+        kComment,
         kClose
     };
     struct Step
@@ -33,6 +34,7 @@ private:
     };
 
     void TakeElement(const xmlNode* element);
+    void TakeChild(const xmlNode* child);
     void Add(Kind kind, const xmlChar* name, const xmlChar* value);
     std::size_t Keep(const xmlChar* text);
     const xmlChar* TextAt(std::size_t position) const;

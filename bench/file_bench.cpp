@@ -1,7 +1,8 @@
 // Measures load, save and memory against what libxml2 alone needs for the same files.
 //
 // Every measurement has a process of its own, since the heap's history would falsify the rest; the
-// two sides of a ratio alternate, and medians are compared.
+// two sides of a ratio alternate, and medians are compared. For files of many like items, the "floor"
+// of the time of one item is its time in the smaller file.
 
 #include "FileWork.h"
 #include "Process.h"
@@ -21,15 +22,52 @@ using namespace bench;
 
 namespace {
 
-struct Size
+/// A file that is measured.
+struct Case
 {
     const char* name;
-    std::size_t bytes;
+    std::size_t count; ///< bytes, or items in the file
+    const char* item;  ///< what is counted, when the time of each must not grow; null for bytes
     int rounds;
+    bool isLong; ///< left out of a quick run
+    string (*generate)(std::size_t count);
 };
-constexpr Size kSizes[] = { { "126 KB", 126'000, 101 },
-                            { "10 MB", 10'000'000, 15 },
-                            { "100 MB", 100'000'000, 7 } };
+
+constexpr const char* kProject = "project"; // a save stamps the file's name
+constexpr const char* kTemplate = "menu.pvtx";
+
+string FullProject(std::size_t size)
+{
+    return GenerateProject(size, kProject);
+}
+
+string OrdinaryMenus(std::size_t count)
+{
+    return GenerateMenus(count, { .buttons = 10 }, kProject);
+}
+
+string NativeMenus(std::size_t count)
+{
+    return GenerateMenus(count, { .buttons = 10, .background = kTemplate }, kProject);
+}
+
+string OneTitle(std::size_t count)
+{
+    return GenerateClips(count, kProject);
+}
+
+// Cases of one item stand together, the smaller first.
+constexpr Case kCases[] = {
+    { "126 KB", 126'000, nullptr, 51, false, FullProject },
+    { "10 MB", 10'000'000, nullptr, 9, false, FullProject },
+    { "100 MB", 100'000'000, nullptr, 3, true, FullProject },
+    { "200 clips", 200, "clip", 15, false, OneTitle },
+    { "2,000 clips", 2'000, "clip", 5, false, OneTitle },
+    { "1,000 menus", 1'000, "menu", 7, false, OrdinaryMenus },
+    { "10,000 menus", 10'000, "menu", 3, true, OrdinaryMenus },
+    { "100 native", 100, "native menu", 31, false, NativeMenus },
+    { "1,000 native", 1'000, "native menu", 9, false, NativeMenus },
+};
 
 constexpr const char* kMeasure = "--measure"; // tells a child what it is for
 
@@ -63,6 +101,11 @@ string ContentOf(const string& path)
 {
     std::ifstream file(path, std::ios::binary);
     return string(std::istreambuf_iterator<char>(file), {});
+}
+
+void WriteText(const string& path, const string& text)
+{
+    std::ofstream(path, std::ios::binary) << text;
 }
 
 double Median(std::vector<double> values)
@@ -114,21 +157,42 @@ constexpr Pair kPairs[] = { { "load", Work::kLoad, Work::kLoadFloor, 1.25 },
                             { "save", Work::kSave, Work::kSaveFloor, 1.2 } };
 constexpr double kMemoryAim = 1.2;
 
+constexpr double kGrowthAim = 1.1;
+
+/// A figure of a case before, for what must not grow from one case of an item to the next.
+struct Figure
+{
+    string what;
+    string item;
+    double perItem;
+};
+
 /// One line of the table; `unit` is what the figure is multiplied by for showing.
-void PrintRow(const Size& size, const string& what, const char* unitName, double unit, double ours,
+void PrintRow(const char* name, const string& what, const char* unitName, double unit, double ours,
               double floor, double aim)
 {
-    std::printf("%-8s%-16s%10.2f %s%10.2f %s%8.2f%7.2f\n", size.name, what.c_str(), ours * unit,
+    std::printf("%-14s%-20s%10.2f %s%10.2f %s%8.2f%7.2f\n", name, what.c_str(), ours * unit,
                 unitName, floor * unit, unitName, ours / floor, aim);
     std::fflush(stdout);
 }
 
+/// Shows the processor's time for one item beside that of the case before.
+void PrintGrowth(const Case& one, const string& what, double seconds)
+{
+    static Figure before[std::size(kPairs)];
+    const double perItem = seconds / static_cast<double>(one.count);
+    Figure& last = before[what == kPairs[0].name ? 0 : 1];
+    if (last.item == one.item)
+        PrintRow(one.name, what + ", a " + one.item, "us", 1e6, perItem, last.perItem, kGrowthAim);
+    last = { what, one.item, perItem };
+}
+
 /// Measures both sides in turn.
-void MeasurePair(const Size& size, const Pair& pair, const string& file, const string& out)
+void MeasurePair(const Case& one, const Pair& pair, const string& file, const string& out)
 {
     std::vector<Measurement> ours;
     std::vector<Measurement> floor;
-    for (int round = 0; round < size.rounds; ++round) {
+    for (int round = 0; round < one.rounds; ++round) {
         std::filesystem::remove(out);
         ours.push_back(MeasureInChild(pair.work, file, out));
         std::filesystem::remove(out);
@@ -136,12 +200,14 @@ void MeasurePair(const Size& size, const Pair& pair, const string& file, const s
     }
     const auto print = [&](const char* what, double Measurement::*figure, const char* unitName,
                            double unit, double aim) {
-        PrintRow(size, string(pair.name) + what, unitName, unit, Median(ours, figure),
+        PrintRow(one.name, string(pair.name) + what, unitName, unit, Median(ours, figure),
                  Median(floor, figure), aim);
     };
     print("", &Measurement::seconds, "ms", 1e3, pair.aim);
     print(", processor", &Measurement::processor, "ms", 1e3, pair.aim);
     print(", memory", &Measurement::kilobytes, "MB", 1.0 / 1024, kMemoryAim);
+    if (one.item)
+        PrintGrowth(one, pair.name, Median(ours, &Measurement::processor));
 }
 
 /// Both ways of saving must give the file that was loaded, or the figures compare nothing.
@@ -156,6 +222,27 @@ void CheckSaves(const string& file, const string& out)
     }
 }
 
+void MeasureCases(bool isQuick)
+{
+    const ScratchFolder scratch;
+    // Templates are looked for in the folder "Content" of the project.
+    for (const char* folder : { "Content", "saved" })
+        std::filesystem::create_directory(scratch.File(folder));
+    const string file = scratch.File("Content/project.xml");
+    const string out = scratch.File("saved/project.xml");
+    WriteText(scratch.File("Content/") + kTemplate, GenerateTemplate());
+
+    std::printf("%-14s%-20s%13s%13s%8s%7s\n", "File", "", "ours", "floor", "ratio", "aim");
+    for (const Case& one : kCases) {
+        if (one.isLong && isQuick)
+            continue;
+        WriteText(file, one.generate(one.count));
+        CheckSaves(file, out);
+        for (const Pair& pair : kPairs)
+            MeasurePair(one, pair, file, out);
+    }
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -163,17 +250,12 @@ int main(int argc, char** argv)
     if (argc == 5 && string(argv[1]) == kMeasure)
         return RunChild(argv);
 
-    const ScratchFolder scratch;
-    const string file = scratch.File("project.xml");
-    const string out = scratch.File("saved/project.xml"); // a save stamps the file's name
-    std::filesystem::create_directory(scratch.File("saved"));
-
-    std::printf("%-8s%-16s%13s%13s%8s%7s\n", "Size", "", "ours", "floor", "ratio", "aim");
-    for (const Size& size : kSizes) {
-        std::ofstream(file, std::ios::binary) << GenerateProject(size.bytes, "project");
-        CheckSaves(file, out);
-        for (const Pair& pair : kPairs)
-            MeasurePair(size, pair, file, out);
+    const bool isQuick = argc == 2 && string(argv[1]) == "--quick";
+    if (argc > 1 && !isQuick) {
+        std::fprintf(stderr, "Usage: file_bench [--quick]\n"
+                             "A quick run leaves the largest files out.\n");
+        return 2;
     }
+    MeasureCases(isQuick);
     return 0;
 }

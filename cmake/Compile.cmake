@@ -18,6 +18,10 @@ target_compile_options(vantrel_warnings INTERFACE
     -Wformat=2)
 if(CMAKE_CXX_COMPILER_ID MATCHES "Clang")
     target_compile_options(vantrel_warnings INTERFACE -Wno-unknown-warning-option)
+elseif(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+    # Optimising, it takes the length of an assigned string for a negative one.
+    target_compile_options(vantrel_warnings INTERFACE -Wno-stringop-overflow -Wno-array-bounds
+        -Wno-restrict)
 endif()
 if(VANTREL_WARNINGS_AS_ERRORS)
     target_compile_options(vantrel_warnings INTERFACE -Werror)
