@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/MemberPointer.h"
 #include "core/Number.h"
 #include "core/Status.h"
 #include "project/AttributeSlots.h"
@@ -221,19 +222,6 @@ private:
 /// of it, and then the node's class is named.
 namespace attribute {
 
-template <class>
-struct FieldOf;
-template <class C, class T>
-struct FieldOf<T C::*>
-{
-    using Class = C;
-    using Type = T;
-};
-template <auto Field>
-using NodeOf = typename FieldOf<decltype(Field)>::Class;
-template <auto Field>
-using TypeOf = typename FieldOf<decltype(Field)>::Type;
-
 /// The decimal number in the width that its text is read and written with.
 template <class T>
 T FromDecimal(std::string_view text)
@@ -269,28 +257,28 @@ constexpr AttributeRow<Node> Constant(const char* name)
 }
 
 /// Decimal text of an integer.
-template <auto Field, class Node = NodeOf<Field>>
+template <auto Field, class Node = ClassOf<Field>>
 constexpr AttributeRow<Node> Decimal(const char* name)
 {
     return { name, [](const Node& node, std::string& text) { AppendDecimal(text, node.*Field); },
              [](Node& node, std::string_view text) {
-                 node.*Field = FromDecimal<TypeOf<Field>>(text);
+                 node.*Field = FromDecimal<ValueOf<Field>>(text);
              } };
 }
 
 /// Decimal text of an integer inside a structure of the node.
-template <auto Field, auto Member, class Node = NodeOf<Field>>
+template <auto Field, auto Member, class Node = ClassOf<Field>>
 constexpr AttributeRow<Node> DecimalIn(const char* name)
 {
     return { name,
              [](const Node& node, std::string& text) { AppendDecimal(text, node.*Field.*Member); },
              [](Node& node, std::string_view text) {
-                 node.*Field.*Member = FromDecimal<TypeOf<Member>>(text);
+                 node.*Field.*Member = FromDecimal<ValueOf<Member>>(text);
              } };
 }
 
 /// Floating-point text with six significant digits.
-template <auto Field, class Node = NodeOf<Field>>
+template <auto Field, class Node = ClassOf<Field>>
 constexpr AttributeRow<Node> Real(const char* name)
 {
     return { name,
@@ -298,12 +286,12 @@ constexpr AttributeRow<Node> Real(const char* name)
                  AppendNumber(text, static_cast<double>(node.*Field));
              },
              [](Node& node, std::string_view text) {
-                 node.*Field = static_cast<TypeOf<Field>>(ParseDouble(text));
+                 node.*Field = static_cast<ValueOf<Field>>(ParseDouble(text));
              } };
 }
 
 /// The same inside a structure of the node.
-template <auto Field, auto Member, class Node = NodeOf<Field>>
+template <auto Field, auto Member, class Node = ClassOf<Field>>
 constexpr AttributeRow<Node> RealIn(const char* name)
 {
     return { name,
@@ -311,12 +299,12 @@ constexpr AttributeRow<Node> RealIn(const char* name)
                  AppendNumber(text, static_cast<double>(node.*Field.*Member));
              },
              [](Node& node, std::string_view text) {
-                 node.*Field.*Member = static_cast<TypeOf<Member>>(ParseDouble(text));
+                 node.*Field.*Member = static_cast<ValueOf<Member>>(ParseDouble(text));
              } };
 }
 
 /// "1" or "0"; any text but "0" is true.
-template <auto Field, class Node = NodeOf<Field>>
+template <auto Field, class Node = ClassOf<Field>>
 constexpr AttributeRow<Node> Bool(const char* name)
 {
     return { name, [](const Node& node, std::string& text) { text += node.*Field ? '1' : '0'; },
@@ -324,7 +312,7 @@ constexpr AttributeRow<Node> Bool(const char* name)
 }
 
 /// The string itself.
-template <auto Field, class Node = NodeOf<Field>>
+template <auto Field, class Node = ClassOf<Field>>
 constexpr AttributeRow<Node> Text(const char* name)
 {
     return { name, [](const Node& node, std::string& text) { text += node.*Field; },
@@ -332,22 +320,22 @@ constexpr AttributeRow<Node> Text(const char* name)
 }
 
 /// A number with its name in parentheses; the number alone is read.
-template <auto Field, class Node = NodeOf<Field>>
+template <auto Field, class Node = ClassOf<Field>>
 constexpr AttributeRow<Node> Enum(const char* name)
 {
     return { name, [](const Node& node, std::string& text) { text += FormatEnum(node.*Field); },
              [](Node& node, std::string_view text) {
-                 node.*Field = static_cast<TypeOf<Field>>(ParseLong(text));
+                 node.*Field = static_cast<ValueOf<Field>>(ParseLong(text));
              } };
 }
 
 /// A bit set with the names of its bits in parentheses; the number alone is read.
-template <auto Field, std::string (*Format)(unsigned long), class Node = NodeOf<Field>>
+template <auto Field, std::string (*Format)(unsigned long), class Node = ClassOf<Field>>
 constexpr AttributeRow<Node> Flags(const char* name)
 {
     return { name, [](const Node& node, std::string& text) { text += Format(node.*Field); },
              [](Node& node, std::string_view text) {
-                 node.*Field = static_cast<TypeOf<Field>>(ParseLong(text));
+                 node.*Field = static_cast<ValueOf<Field>>(ParseLong(text));
              } };
 }
 

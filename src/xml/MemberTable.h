@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/MemberPointer.h"
 #include "xml/TypedElement.h"
 #include "xml/TypedValue.h"
 #include "xml/XMLWrapper.h"
@@ -74,19 +75,6 @@ void LoadRows(const MemberPlace& place, const MemberRow<T> (&rows)[N], T& object
 
 /// Row makers: one for each kind of value, and what they are made of.
 namespace member {
-
-template <class Member>
-struct MemberOf;
-template <class C, class V>
-struct MemberOf<V C::*>
-{
-    using Class = C;
-    using Value = V;
-};
-template <auto Field>
-using ClassOf = typename MemberOf<decltype(Field)>::Class;
-template <auto Field>
-using ValueOf = typename MemberOf<decltype(Field)>::Value;
 
 template <class Kind, auto Field>
 void SaveField(const MemberPlace& place, const char* name, const ClassOf<Field>& object)
