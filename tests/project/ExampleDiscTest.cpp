@@ -25,14 +25,9 @@ string AnswersOf(CProjectNode& list)
             answers += " at " + PositionOf(*element) + " extent " + ExtentOf(*element);
         if (auto* text = dynamic_cast<CDSMenuText*>(node)) {
             string words, font;
-            long height = 0;
-            unsigned long colour = 0;
             (void)text->getString(&words);
             (void)text->get_Font(&font);
-            (void)text->get_Height(&height);
-            (void)text->GetColor(&colour);
-            answers += " says " + words + " in " + font + " " + std::to_string(height) + " " +
-                       std::to_string(colour) + " corners " + Corners(*text);
+            answers += " says " + words + " in " + font + " corners " + Corners(*text);
         } else if (auto* overlay = dynamic_cast<CDSMenuOverlay*>(node)) {
             string source;
             (void)overlay->get_Source(&source);
