@@ -181,16 +181,6 @@ TEST_P(NumberedList, MovesFromPlaceToPlace)
     }
 }
 
-TEST_P(NumberedList, IsClearedOfNodesOfBothOwners)
-{
-    Fill(2);
-    const auto mine = GetParam().make(9);
-    EXPECT_EQ(GetParam().add(project, 2, mine.get()), status::kOk);
-    EXPECT_EQ(project._Clear(), status::kOk);
-    EXPECT_EQ(list().GetNumChildren(), 0);
-    EXPECT_EQ(mine->GetParent(), nullptr);
-}
-
 INSTANTIATE_TEST_SUITE_P(
     Kinds, NumberedList,
     testing::Values(CaseOf<CDSTitle>("Titles", 0, &CDSProjectData::AddTitle,
@@ -324,6 +314,7 @@ TEST(ProjectLists, AreReplacedByASecondLoadWhileSettingsStay)
         EXPECT_EQ(project.LoadXML(AsNode(xml.root())), status::kOk);
         EXPECT_EQ(IdsIn(*project.GetChild(0)), "1");
         EXPECT_EQ(project.GetChild(1)->GetNumChildren(), 0);
+        EXPECT_EQ(mine.GetParent(), nullptr);
         EXPECT_EQ(project.GetChild(3)->GetNumChildren(), 1);
     }
     string label;
