@@ -127,36 +127,28 @@ TEST(XMLHelpers, ReadsColoursAndIdentifiers)
                   GuidText(kGuid));
 }
 
-struct BlobCase
+TEST(LoadBlob, FillsNoMoreThanThereIsRoomFor)
 {
-    const char* name;
-    const char* text;
-    Status result;
-    unsigned long size; ///< of a buffer that takes 3 bytes, afterwards
-    std::string bytes;
-};
-class LoadBlob : public testing::TestWithParam<BlobCase>
-{};
-
-TEST_P(LoadBlob, FillsNoMoreThanThereIsRoomFor)
-{
-    const XmlText xml{ std::string("<P><v>") + GetParam().text + "</v></P>" };
-    std::string bytes = "...!";
-    unsigned long size = 3;
-    EXPECT_EQ(Helpers::LoadBlobNode(xml.root(), "v", "", bytes.data(), size), GetParam().result);
-    EXPECT_EQ(size, GetParam().size);
-    EXPECT_EQ(bytes, GetParam().bytes);
+    const struct
+    {
+        const char* text;
+        Status result;
+        unsigned long size; ///< of a buffer that takes 3 bytes, afterwards
+        const char* bytes;
+    } cases[] = { { " 4a\n4B ", status::kOk, 2, "JK.!" },
+                  { "4142434445", status::kOk, 3, "ABC!" },
+                  { "", status::kOk, 0, "...!" },
+                  { "414", status::kBadArgument, 3, "...!" },
+                  { "4142434g", status::kBadArgument, 3, "...!" } };
+    for (const auto& c : cases) {
+        const XmlText xml{ std::string("<P><v>") + c.text + "</v></P>" };
+        std::string bytes = "...!";
+        unsigned long size = 3;
+        EXPECT_EQ(Helpers::LoadBlobNode(xml.root(), "v", "", bytes.data(), size), c.result);
+        EXPECT_EQ(size, c.size) << c.text;
+        EXPECT_EQ(bytes, c.bytes);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Texts, LoadBlob,
-    testing::Values(BlobCase{ "EitherCaseAndSpace", " 4a\n4B ", status::kOk, 2, "JK.!" },
-                    BlobCase{ "MoreThanRoom", "4142434445", status::kOk, 3, "ABC!" },
-                    BlobCase{ "Empty", "", status::kOk, 0, "...!" },
-                    BlobCase{ "OddDigits", "414", status::kBadArgument, 3, "...!" },
-                    BlobCase{ "BadDigitBehindTheRoom", "4142434g", status::kBadArgument, 3,
-                              "...!" }),
-    [](const auto& row) { return row.param.name; });
 
 TEST(XMLHelpers, MissingElementsAndParentsLeaveTheOutputAlone)
 {
