@@ -30,19 +30,21 @@ std::string ChildNames(CPersistObject& object)
     return names;
 }
 
-template <class Object>
+template <class... Objects>
 void ExpectNoProductionYet()
 {
-    Object object;
-    CQZBaseSBD sbd;
-    CQZBaseSBD* out = nullptr;
-    EXPECT_EQ(object.get_ParentProduction(&out), status::kNullPointer);
-    EXPECT_EQ(object.put_ParentProduction(&sbd), status::kOk);
-    EXPECT_EQ(object.get_ParentProduction(nullptr), status::kNullPointer);
-    EXPECT_EQ(object.get_ParentProduction(&out), status::kOk);
-    EXPECT_EQ(out, &sbd);
-    EXPECT_EQ(object.PersistXML(nullptr, true), status::kBadArgument);
-    EXPECT_EQ(object.PersistXML(nullptr, false), status::kBadArgument);
+    const auto expect = [](auto object) {
+        CQZBaseSBD sbd;
+        CQZBaseSBD* out = nullptr;
+        EXPECT_EQ(object->get_ParentProduction(&out), status::kNullPointer);
+        EXPECT_EQ(object->put_ParentProduction(&sbd), status::kOk);
+        EXPECT_EQ(object->get_ParentProduction(nullptr), status::kNullPointer);
+        EXPECT_EQ(object->get_ParentProduction(&out), status::kOk);
+        EXPECT_EQ(out, &sbd);
+        EXPECT_EQ(object->PersistXML(nullptr, true), status::kBadArgument);
+        EXPECT_EQ(object->PersistXML(nullptr, false), status::kBadArgument);
+    };
+    (expect(std::make_unique<Objects>()), ...);
 }
 
 } // namespace
@@ -77,13 +79,8 @@ TEST(Panels, NewOnesWriteTheirPartsInOrder)
 
 TEST(Panels, EveryCompleteObjectKnowsItsProduction)
 {
-    ExpectNoProductionYet<CColorObject>();
-    ExpectNoProductionYet<CClipObject>();
-    ExpectNoProductionYet<CTransitionObject>();
-    ExpectNoProductionYet<CSourceFileObject>();
-    ExpectNoProductionYet<CEffectObject>();
-    ExpectNoProductionYet<CMotionObject>();
-    ExpectNoProductionYet<CAudioObject>();
+    ExpectNoProductionYet<CColorObject, CClipObject, CTransitionObject, CSourceFileObject,
+                          CEffectObject, CMotionObject, CAudioObject>();
 }
 
 TEST(BaseObject, IdIsNotTheFiles)
