@@ -19,30 +19,15 @@ namespace {
 /// Texts that a hostile or a merely old file may hold, glued together from telling pieces.
 std::string HostileNumber(std::mt19937& random)
 {
-    static const char* const pieces[] = { "0",
-                                          "1",
-                                          "9223372036854775807",
-                                          "18446744073709551616",
-                                          "-",
-                                          "+",
-                                          " ",
-                                          "\t",
-                                          "0x",
-                                          "0X",
-                                          "f",
-                                          "A",
-                                          ".",
-                                          "e",
-                                          "E5",
-                                          "308",
-                                          "inf",
-                                          "nan",
-                                          "NaN(1)",
-                                          "x",
-                                          ",",
-                                          "p3",
-                                          "" };
-    std::uniform_int_distribution<std::size_t> pick(0, std::size(pieces) - 1);
+    static const std::vector<std::string> pieces = [] {
+        std::istringstream list("0|1|9223372036854775807|18446744073709551616|-|+| |\t|0x|0X|f|A|.|"
+                                "e|E5|308|inf|nan|NaN(1)|x|,|p3||");
+        std::vector<std::string> split;
+        for (std::string piece; std::getline(list, piece, '|');)
+            split.push_back(piece);
+        return split;
+    }();
+    std::uniform_int_distribution<std::size_t> pick(0, pieces.size() - 1);
     std::string text;
     for (int i = 0; i < 5; ++i)
         text += pieces[pick(random)];

@@ -1,39 +1,27 @@
 #include "core/PathUtils.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-struct SplitCase
+TEST(SplitPath, GivesDirectoryNameAndExtension)
 {
-    const char* name;
-    const char* path;
-    const char* directory;
-    const char* fileName;
-    const char* extension;
-};
-class SplitPath : public testing::TestWithParam<SplitCase>
-{};
-
-TEST_P(SplitPath, GivesDirectoryNameAndExtension)
-{
-    std::string directory = "?", name = "?", extension = "?";
-    ASSERT_TRUE(Utils::GetDirectoryAndFileName(GetParam().path, &directory, &name, &extension));
-    EXPECT_EQ(directory, GetParam().directory);
-    EXPECT_EQ(name, GetParam().fileName);
-    EXPECT_EQ(extension, GetParam().extension);
+    constexpr const char* cases[][4] = {
+        { "/a/b/c.xml", "/a/b", "c", ".xml" },
+        { R"(C:\a\b.xml)", R"(C:\a)", "b", ".xml" },
+        { R"(C:\a/b.xml)", "C:", "a/b", ".xml" }, // the backslash wins
+        { "/a.b/c", "/a.b", "c", "" },
+        { "project.xml", "", "project", ".xml" },
+        { "/c.xml", "", "c", ".xml" },
+        { "/a/b.tar.gz", "/a", "b.tar", ".gz" },
+        { "/a/.xml", "/a", ".xml", ".xml" }, // a leading dot is the name
+        { "/a/b/", "/a/b", "", "" },
+    };
+    for (const auto& [path, directory, fileName, extension] : cases) {
+        std::string parts[] = { "?", "?", "?" };
+        ASSERT_TRUE(Utils::GetDirectoryAndFileName(path, &parts[0], &parts[1], &parts[2]));
+        EXPECT_THAT(parts, testing::ElementsAre(directory, fileName, extension)) << path;
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Paths, SplitPath,
-    testing::Values(SplitCase{ "Plain", "/a/b/c.xml", "/a/b", "c", ".xml" },
-                    SplitCase{ "Backslashes", R"(C:\a\b.xml)", R"(C:\a)", "b", ".xml" },
-                    SplitCase{ "BackslashWins", R"(C:\a/b.xml)", "C:", "a/b", ".xml" },
-                    SplitCase{ "DotInAFolder", "/a.b/c", "/a.b", "c", "" },
-                    SplitCase{ "NoFolder", "project.xml", "", "project", ".xml" },
-                    SplitCase{ "RootFolder", "/c.xml", "", "c", ".xml" },
-                    SplitCase{ "LastDotCounts", "/a/b.tar.gz", "/a", "b.tar", ".gz" },
-                    SplitCase{ "LeadingDotIsTheName", "/a/.xml", "/a", ".xml", ".xml" },
-                    SplitCase{ "FolderAlone", "/a/b/", "/a/b", "", "" }),
-    [](const auto& row) { return row.param.name; });
 
 TEST(SplitPathArguments, EmptyTouchesNothingAndNullsAreSkipped)
 {
@@ -54,32 +42,23 @@ TEST(ContentPath, IsCutBehindTheFirstContentFolder)
     EXPECT_EQ(cut(""), "");
 }
 
-struct ResolveCase
+TEST(ResolveFilePath, MakesAPathOfThisMachine)
 {
-    const char* name;
-    const char* stored;
-    const char* resolved;
-};
-class ResolveFilePath : public testing::TestWithParam<ResolveCase>
-{};
-
-TEST_P(ResolveFilePath, MakesAPathOfThisMachine)
-{
-    std::string path = GetParam().stored;
-    EXPECT_FALSE(Utils::ResolveFilePath(&path));
-    EXPECT_EQ(path, GetParam().resolved);
+    constexpr const char* cases[][2] = {
+        { R"(%CONTENT%\Backgrounds\a.mpg)", "/Backgrounds/a.mpg" },
+        { "%CONTENT%x.mpg", "x.mpg" },
+        { R"(a%CONTENT%\x.mpg)", "x.mpg" }, // the token's neighbours go with it
+        { "a%CONTENT%", "" },
+        { R"(ab%CONTENT%\x.mpg)", "ab%CONTENT%/x.mpg" },
+        { R"(C:\a\b.mpg)", "C:/a/b.mpg" },
+        { "", "" },
+    };
+    for (const auto& [stored, resolved] : cases) {
+        std::string path = stored;
+        EXPECT_FALSE(Utils::ResolveFilePath(&path));
+        EXPECT_EQ(path, resolved) << stored;
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Paths, ResolveFilePath,
-    testing::Values(
-        ResolveCase{ "TokenGoes", R"(%CONTENT%\Backgrounds\a.mpg)", "/Backgrounds/a.mpg" },
-        ResolveCase{ "TokenAlone", "%CONTENT%x.mpg", "x.mpg" },
-        ResolveCase{ "NeighboursGoWithIt", R"(a%CONTENT%\x.mpg)", "x.mpg" },
-        ResolveCase{ "NothingBehindTheToken", "a%CONTENT%", "" },
-        ResolveCase{ "TokenElsewhereStays", R"(ab%CONTENT%\x.mpg)", "ab%CONTENT%/x.mpg" },
-        ResolveCase{ "DriveStays", R"(C:\a\b.mpg)", "C:/a/b.mpg" }, ResolveCase{ "Empty", "", "" }),
-    [](const auto& row) { return row.param.name; });
 
 TEST(UnresolveFilePath, PutsTheTokenBackForAFileOfATheme)
 {

@@ -55,10 +55,6 @@ TEST_F(EncodingTest, SwitchingOffKeepsWhatWasShownButForTheAspectRatio)
                                  "VBREncoding='1' twoPassEncoding='1'/>"),
               status::kOk);
     ASSERT_EQ(own().put_SyncToProject(true), status::kOk);
-    AspectRatio ratio = AspectRatio::None;
-    ASSERT_EQ(own().get_AspectRatio(&ratio), status::kOk);
-    EXPECT_EQ(ratio, AspectRatio::_16x9);
-
     ASSERT_EQ(own().put_SyncToProject(false), status::kOk);
     ASSERT_EQ(shared().put_VideoBitrate(200), status::kOk);
     EXPECT_EQ(WrittenNode(own()),

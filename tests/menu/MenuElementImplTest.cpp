@@ -94,50 +94,16 @@ TEST_F(PlacedElement, HasTheTimesOfItsEffect)
     EXPECT_EQ(overlay.setTimeOffsets(&start, &end), status::kNothingDone);
     const EffectAt effect(0, 0);
     effect.PutOn(overlay);
-    EXPECT_EQ(overlay.setTimeOffsets(&start, &end), status::kOk);
-    start = end = 0;
-    EXPECT_EQ(overlay.getTimeOffsets(&start, &end), status::kOk);
-    EXPECT_EQ(end, 8);
     EXPECT_EQ(overlay.getTimeOffsets(nullptr, &end), status::kNullPointer);
     EXPECT_EQ(overlay.setTimeOffsets(&start, nullptr), status::kNullPointer);
 }
 
-TEST(ElementAttributes, AreThoseOfTheKindAndOfTheGeometryOnRequest)
+TEST(ElementAttributes, AreNoneOfANodeThatIsNoElement)
 {
-    CDSMenuOverlay overlay;
-    CDSMenuButton button;
     CDSMenu menu;
-    const struct
-    {
-        CProjectNode& node;
-        bool geometry;
-        Status status;
-        const char* text;
-    } cases[] = {
-        { overlay, true, status::kOk,
-          "flags=3 rotation=1.5 tag=4 (Thumbnai) templateID=5 x=0.5 y=-2 zOrder=-1 " },
-        { overlay, false, status::kOk, "flags=3 tag=4 (Thumbnai) templateID=5 " },
-        { button, false, status::kOk, "flags=3 tag=4 (Home) templateID=5 " },
-        { menu, true, status::kUnexpected, "" },
-    };
-    for (const auto& c : cases) {
-        CMenuElementImpl element(&c.node);
-        EXPECT_EQ(element.LoadElementAttributes({ { "tag", "4 (anything)" },
-                                                  { "flags", "3" },
-                                                  { "templateID", "5" },
-                                                  { "x", "0.5" },
-                                                  { "y", "-2" },
-                                                  { "rotation", "1.5" },
-                                                  { "zOrder", "-1" } },
-                                                c.geometry),
-                  status::kOk);
-        std::map<string, string> attributes;
-        EXPECT_EQ(element.SaveElementAttributes(attributes, c.geometry), c.status);
-        string text;
-        for (const auto& [name, value] : attributes)
-            text += name + "=" + value + " ";
-        EXPECT_EQ(text, c.text);
-    }
+    std::map<string, string> attributes;
+    EXPECT_EQ(CMenuElementImpl(&menu).SaveElementAttributes(attributes, true), status::kUnexpected);
+    EXPECT_TRUE(attributes.empty());
 }
 
 TEST(ButtonAnchor, LendsTheButtonItsPosition)

@@ -32,6 +32,15 @@ Status Load(const string& path, CDSProjectData& project, string* printed = nullp
     return result;
 }
 
+/// What a load and a save make of a file.
+string Resaved(const string& path)
+{
+    CDSProjectData project;
+    EXPECT_EQ(Load(path, project), status::kOk);
+    EXPECT_EQ(CDSFileService().SaveProject(path, &project), status::kOk);
+    return ReadFile(path);
+}
+
 constexpr const char* kFullProject =
     R"x(<Root xmlns:dt="urn:schemas-microsoft-com:datatypes"><Project ID="5" Version="900" label="Été"
  name="old" DiscSize="8 (x)" discFormat="7 ()" TVStandard="99" options="65" fitToDisc="yes"
@@ -49,13 +58,8 @@ TEST(FileService, LoadAndSaveIsAFixedPoint)
 {
     const ScratchFolder folder;
     WriteFile(folder / "disc.xml", kFullProject);
-    CDSProjectData first, second;
-    ASSERT_EQ(Load(folder / "disc.xml", first), status::kOk);
-    ASSERT_EQ(CDSFileService().SaveProject(folder / "disc.xml", &first), status::kOk);
-    const string saved = ReadFile(folder / "disc.xml");
-    ASSERT_EQ(Load(folder / "disc.xml", second), status::kOk);
-    ASSERT_EQ(CDSFileService().SaveProject(folder / "disc.xml", &second), status::kOk);
-    EXPECT_EQ(ReadFile(folder / "disc.xml"), saved);
+    const string saved = Resaved(folder / "disc.xml");
+    EXPECT_EQ(Resaved(folder / "disc.xml"), saved);
 
     for (
         const char* part :
@@ -108,79 +112,50 @@ TEST(FileService, ANewProjectHasTheSkeletonOfAFile)
     EXPECT_EQ(Label(project), "mine");
 }
 
-struct VersionCase
-{
-    const char* name;
-    const char* project;
-    Status result;
-};
-class FileVersion : public testing::TestWithParam<VersionCase>
-{};
-
-TEST_P(FileVersion, DecidesWhetherTheFileIsRead)
+TEST(FileService, TheVersionDecidesWhetherAFileIsRead)
 {
     const ScratchFolder folder;
-    WriteFile(folder / "a.xml", string("<AnyName>") + GetParam().project + "</AnyName>");
-    CDSProjectData project;
-    string printed;
-    EXPECT_EQ(Load(folder / "a.xml", project, &printed), GetParam().result);
-    EXPECT_EQ(Label(project), GetParam().result == status::kOk ? "new" : "");
-    EXPECT_EQ(printed, "");
+    const std::pair<const char*, Status> cases[] = {
+        { "<Project Version='800' label='new'/>", status::kOk },
+        { "<Project Version='799' label='new'/>", status::kOldVersion },
+        { "<Project Version='900abc' label='new'/>", status::kOk },
+        { "<Project Version='5000' label='new'/>", status::kOk },
+        { "<Project label='new'/>", status::kOldVersion },
+        { "<Project xmlns:p='urn:p' p:Version='900' label='new'/>", status::kOldVersion },
+        { "<x><Project Version='900' label='new'/></x>", status::kOldVersion },
+    };
+    for (const auto& [text, result] : cases) {
+        WriteFile(folder / "a.xml", string("<AnyName>") + text + "</AnyName>");
+        CDSProjectData project;
+        string printed;
+        EXPECT_EQ(Load(folder / "a.xml", project, &printed), result) << text;
+        EXPECT_EQ(Label(project) + printed, result == status::kOk ? "new" : "") << text;
+    }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Versions, FileVersion,
-    testing::Values(
-        VersionCase{ "Oldest", "<Project Version='800' label='new'/>", status::kOk },
-        VersionCase{ "TooOld", "<Project Version='799' label='new'/>", status::kOldVersion },
-        VersionCase{ "LeadingNumber", "<Project Version='900abc' label='new'/>", status::kOk },
-        VersionCase{ "NoUpperLimit", "<Project Version='5000' label='new'/>", status::kOk },
-        VersionCase{ "Missing", "<Project label='new'/>", status::kOldVersion },
-        VersionCase{ "ByPrefixAlone", "<Project xmlns:p='urn:p' p:Version='900' label='new'/>",
-                     status::kOldVersion },
-        VersionCase{ "NoProject", "<x><Project Version='900' label='new'/></x>",
-                     status::kOldVersion }),
-    [](const auto& row) { return row.param.name; });
-
-struct BadFileCase
+TEST(FileService, ABadFileIsRefusedWithAMessageAndChangesNothing)
 {
-    const char* name;
-    string bytes;
-};
-class BadFile : public testing::TestWithParam<BadFileCase>
-{};
-
-TEST_P(BadFile, IsRefusedWithAMessageAndChangesNothing)
-{
+    string deep;
+    for (int i = 0; i < 100000; ++i)
+        deep += "<Title>";
     const ScratchFolder folder;
-    WriteFile(folder / "a.xml", GetParam().bytes);
     CDSProjectData project;
-    string printed;
-    EXPECT_EQ(Load(folder / "a.xml", project, &printed), status::kUnreadableFile);
-    EXPECT_EQ(printed, "LoadProject: could not parse file " + folder / "a.xml" + "\n");
-    EXPECT_EQ(Label(project), "");
+    for (const string& bytes :
+         { string(), string("PK\x03\x04 not xml"), string("<?xml version='1.0'?><!-- nothing -->"),
+           string(kFullProject).substr(0, 700), deep,
+           string("<!DOCTYPE r [<!ENTITY a 'aaaaaaaaaaaaaaaaaaaaaaaa'>"
+                  "<!ENTITY b '&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;'>"
+                  "<!ENTITY c '&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;'>"
+                  "<!ENTITY d '&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;'>"
+                  "<!ENTITY e '&d;&d;&d;&d;&d;&d;&d;&d;&d;&d;&d;&d;&d;&d;&d;&d;'>]>"
+                  "<r><Project Version='900' label='&e;&e;&e;&e;&e;&e;'/></r>") }) {
+        WriteFile(folder / "a.xml", bytes);
+        string printed;
+        EXPECT_EQ(Load(folder / "a.xml", project, &printed), status::kUnreadableFile);
+        EXPECT_EQ(printed, "LoadProject: could not parse file " + folder / "a.xml" + "\n");
+        EXPECT_EQ(Label(project), "") << bytes.substr(0, 60);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Files, BadFile,
-    testing::Values(BadFileCase{ "Empty", "" }, BadFileCase{ "NoXml", "PK\x03\x04 not xml" },
-                    BadFileCase{ "NoRoot", "<?xml version='1.0'?><!-- nothing -->" },
-                    BadFileCase{ "Truncated", string(kFullProject).substr(0, 700) },
-                    BadFileCase{ "TooDeep",
-                                 [] {
-                                     string deep;
-                                     for (int i = 0; i < 100000; ++i)
-                                         deep += "<Title>";
-                                     return deep;
-                                 }() },
-                    BadFileCase{ "EntityBomb",
-                                 "<!DOCTYPE r [<!ENTITY a 'aaaaaaaaaaaaaaaaaaaaaaaa'>"
-                                 "<!ENTITY b '&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;'>"
-                                 "<!ENTITY c '&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;'>"
-                                 "<!ENTITY d '&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;'>"
-                                 "<!ENTITY e '&d;&d;&d;&d;&d;&d;&d;&d;&d;&d;&d;&d;&d;&d;&d;&d;'>]>"
-                                 "<r><Project Version='900' label='&e;&e;&e;&e;&e;&e;'/></r>" }),
-    [](const auto& row) { return row.param.name; });
 
 TEST(FileService, WhatIsNoReadableFileIsTold)
 {
@@ -243,13 +218,8 @@ TEST(FileService, HostileValuesInEveryAttributeSurviveTwoSaves)
                 hostile.replace(at, end - at, value);
         }
         WriteFile(folder / "a.xml", hostile);
-        CDSProjectData first, second;
-        ASSERT_EQ(Load(folder / "a.xml", first), status::kOk);
-        ASSERT_EQ(CDSFileService().SaveProject(folder / "a.xml", &first), status::kOk);
-        const string saved = ReadFile(folder / "a.xml");
-        ASSERT_EQ(Load(folder / "a.xml", second), status::kOk);
-        ASSERT_EQ(CDSFileService().SaveProject(folder / "a.xml", &second), status::kOk);
-        EXPECT_EQ(ReadFile(folder / "a.xml"), saved);
+        const string saved = Resaved(folder / "a.xml");
+        EXPECT_EQ(Resaved(folder / "a.xml"), saved);
     }
 }
 

@@ -15,58 +15,60 @@ struct MenuRow
     long templateID;
 };
 
-} // namespace
-
 /// The menus of a project, and the IDs of those that stay.
 struct PruningCase
 {
-    const char* name;
     std::vector<MenuRow> menus;
     bool hasTitle;
     const char* kept;
 };
-class TemplatePruning : public testing::TestWithParam<PruningCase>
-{};
 
-TEST_P(TemplatePruning, KeepsWhatIsUsed)
+string IdsAfterPruning(const PruningCase& row)
 {
     CDSProjectData project;
     CProjectNode& list = *project.GetChild(1);
-    for (const MenuRow& row : GetParam().menus) {
+    for (const MenuRow& one : row.menus) {
         auto menu = std::make_unique<CDSMenu>();
-        menu->SetID(row.id);
-        (void)menu->put_Tag(row.tag);
-        (void)menu->put_TemplateID(row.templateID);
+        menu->SetID(one.id);
+        (void)menu->put_Tag(one.tag);
+        (void)menu->put_TemplateID(one.templateID);
         list.AdoptChild(std::move(menu), false);
     }
     CDSTitle title;
-    if (GetParam().hasTitle)
+    if (row.hasTitle)
         (void)project.AddTitle(0, &title);
 
     EXPECT_EQ(CDSFileService().RemoveUnusedTemplates(&project), status::kOk);
     string kept;
     for (int i = 0; i < list.GetNumChildren(); ++i)
         kept += (i ? " " : "") + std::to_string(list.GetChild(i)->GetID());
-    EXPECT_EQ(kept, GetParam().kept);
+    return kept;
 }
 
-// clang-format off
-INSTANTIATE_TEST_SUITE_P(Projects, TemplatePruning, testing::Values(
-    PruningCase{ "NoTemplates", { { 1, 1, 0 }, { 2, 16, 0 } }, false, "1 2" },
-    PruningCase{ "TheUnusedOneGoes", { { 1, 1, 5 }, { 5, 4, 0 }, { 6, 4, 0 } }, false, "1 5" },
-    PruningCase{ "ATemplateOfAUsedOneStays", { { 1, 1, 5 }, { 5, 4, 6 }, { 6, 8, 0 } }, false, "1 5 6" },
-    PruningCase{ "RisingChainsStayWhole", { { 1, 2, 5 }, { 5, 4, 6 }, { 6, 4, 7 }, { 7, 4, 8 }, { 8, 4, 9 }, { 9, 4, 0 } }, false, "1 5 6 7 8 9" },
-    PruningCase{ "FallingChainsStayForThreeLinks", { { 1, 2, 9 }, { 9, 4, 8 }, { 8, 4, 7 }, { 7, 4, 6 }, { 6, 4, 5 }, { 5, 4, 0 } }, false, "1 9 8 7 6" },
-    PruningCase{ "OneMadeFromItself", { { 1, 1, 5 }, { 5, 4, 5 } }, false, "1 5" },
-    PruningCase{ "TwoMadeFromEachOther", { { 1, 1, 5 }, { 5, 4, 6 }, { 6, 4, 5 } }, false, "1 5 6" },
-    PruningCase{ "NothingButTemplates", { { 5, 4, 0 }, { 6, 8, 5 }, { 7, 16, 0 } }, false, "5 6 7" },
-    PruningCase{ "NothingButTemplatesAndATitle", { { 5, 4, 0 }, { 6, 8, 5 }, { 7, 16, 0 } }, true, "7" },
-    PruningCase{ "OneThatIsNoneIsUsed", { { 1, 1, 7 }, { 5, 4, 0 } }, false, "1" },
-    PruningCase{ "ATagOfBothKindsIsOrdinary", { { 1, 5, 6 }, { 6, 4, 0 }, { 7, 4, 0 } }, false, "1 6" },
-    PruningCase{ "OneWithoutAnIdStays", { { 1, 1, 6 }, { 0, 4, 0 }, { 6, 4, 0 } }, false, "1 0 6" },
-    PruningCase{ "AnOrdinaryMenuOfTheSameIdStays", { { 1, 1, 9 }, { 5, 1, 0 }, { 5, 4, 0 } }, false, "1 5" }),
-    [](const auto& row) { return row.param.name; });
-// clang-format on
+} // namespace
+
+TEST(TemplatePruning, KeepsWhatIsUsed)
+{
+    // clang-format off
+    const std::pair<const char*, PruningCase> cases[] = {
+        { "NoTemplates", { { { 1, 1, 0 }, { 2, 16, 0 } }, false, "1 2" } },
+        { "TheUnusedOneGoes", { { { 1, 1, 5 }, { 5, 4, 0 }, { 6, 4, 0 } }, false, "1 5" } },
+        { "ATemplateOfAUsedOneStays", { { { 1, 1, 5 }, { 5, 4, 6 }, { 6, 8, 0 } }, false, "1 5 6" } },
+        { "RisingChainsStayWhole", { { { 1, 2, 5 }, { 5, 4, 6 }, { 6, 4, 7 }, { 7, 4, 8 }, { 8, 4, 9 }, { 9, 4, 0 } }, false, "1 5 6 7 8 9" } },
+        { "FallingChainsStayForThreeLinks", { { { 1, 2, 9 }, { 9, 4, 8 }, { 8, 4, 7 }, { 7, 4, 6 }, { 6, 4, 5 }, { 5, 4, 0 } }, false, "1 9 8 7 6" } },
+        { "OneMadeFromItself", { { { 1, 1, 5 }, { 5, 4, 5 } }, false, "1 5" } },
+        { "TwoMadeFromEachOther", { { { 1, 1, 5 }, { 5, 4, 6 }, { 6, 4, 5 } }, false, "1 5 6" } },
+        { "NothingButTemplates", { { { 5, 4, 0 }, { 6, 8, 5 }, { 7, 16, 0 } }, false, "5 6 7" } },
+        { "NothingButTemplatesAndATitle", { { { 5, 4, 0 }, { 6, 8, 5 }, { 7, 16, 0 } }, true, "7" } },
+        { "OneThatIsNoneIsUsed", { { { 1, 1, 7 }, { 5, 4, 0 } }, false, "1" } },
+        { "ATagOfBothKindsIsOrdinary", { { { 1, 5, 6 }, { 6, 4, 0 }, { 7, 4, 0 } }, false, "1 6" } },
+        { "OneWithoutAnIdStays", { { { 1, 1, 6 }, { 0, 4, 0 }, { 6, 4, 0 } }, false, "1 0 6" } },
+        { "AnOrdinaryMenuOfTheSameIdStays", { { { 1, 1, 9 }, { 5, 1, 0 }, { 5, 4, 0 } }, false, "1 5" } },
+    };
+    // clang-format on
+    for (const auto& [name, row] : cases)
+        EXPECT_EQ(IdsAfterPruning(row), row.kept) << name;
+}
 
 TEST(TemplatePruning, HappensWithASaveAndLeavesPointersAlive)
 {

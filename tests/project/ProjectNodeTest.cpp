@@ -2,7 +2,6 @@
 
 #include "disc/DSDataFile.h"
 #include "disc/DSTitle.h"
-#include "project/DSList.h"
 #include "project/Visitor.h"
 #include "support/NodeFixture.h"
 
@@ -79,31 +78,22 @@ TEST(NodeIds, FollowTheCounter)
     EXPECT_EQ(CProjectNode::GetNewID(), 6);
 }
 
-struct CounterCase
+TEST(NodeIds, RaiseTheCounterAboveThem)
 {
-    const char* name;
-    unsigned long before;
-    long id;
-    unsigned long after;
-};
-class SetID : public testing::TestWithParam<CounterCase>
-{};
-
-TEST_P(SetID, RaisesTheCounterAboveTheId)
-{
-    const IdCounterGuard guard(GetParam().before);
-    ProbeNode node;
-    node.SetID(GetParam().id);
-    EXPECT_EQ(node.GetID(), GetParam().id);
-    EXPECT_EQ(CProjectNode::sm_dwNextID, GetParam().after);
+    const struct
+    {
+        unsigned long before;
+        long id;
+        unsigned long after;
+    } cases[] = { { 5, 100, 101 }, { 100, 100, 101 }, { 101, 3, 101 }, { 7, -1, 7 } };
+    for (const auto& c : cases) {
+        const IdCounterGuard guard(c.before);
+        ProbeNode node;
+        node.SetID(c.id);
+        EXPECT_EQ(node.GetID(), c.id);
+        EXPECT_EQ(CProjectNode::sm_dwNextID, c.after) << c.id;
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Counter, SetID,
-                         testing::Values(CounterCase{ "Above", 5, 100, 101 },
-                                         CounterCase{ "Equal", 100, 100, 101 },
-                                         CounterCase{ "Below", 101, 3, 101 },
-                                         CounterCase{ "WithoutSuccessor", 7, -1, 7 }),
-                         [](const auto& row) { return row.param.name; });
 
 TEST(NodeTree, OwnedChildrenDieWithTheParentAndOthersLoseIt)
 {
@@ -221,17 +211,6 @@ TEST(NodeAttributes, AreWrittenInByteOrderAndFitForAFile)
     EXPECT_EQ(testing::internal::GetCapturedStdout(), "Failed on attribute: no name\n");
 }
 
-TEST(ListNode, CountsItsChildrenAndReadsNoCount)
-{
-    CDSList list(eNodeTitles);
-    ProbeNode children[3];
-    for (ProbeNode& child : children)
-        list.AddChild(&child, true);
-    EXPECT_EQ(WrittenNode(list), R"x(<N NumItems="3"/>)x");
-    EXPECT_EQ(ReadNode(list, "<Titles NumItems='77'/>"), status::kOk);
-    EXPECT_EQ(WrittenNode(list), R"x(<N NumItems="3"/>)x");
-}
-
 TEST(Visitor, VisitsANodeBeforeItsChildren)
 {
     struct Recorder : CVisitor
@@ -245,12 +224,11 @@ TEST(Visitor, VisitsANodeBeforeItsChildren)
         }
         std::vector<long> visited;
     } recorder;
-    ProbeNode nodes[4];
-    for (long i = 0; i < 4; ++i)
-        nodes[i].SetID(i + 1);
-    nodes[0].AddChild(&nodes[1], false);
-    nodes[1].AddChild(&nodes[2], false);
-    nodes[0].AddChild(&nodes[3], false);
-    EXPECT_EQ(recorder.Traverse(&nodes[0], 42), status::kOk);
-    EXPECT_EQ(recorder.visited, (std::vector<long>{ 1, 2, 3, 4 }));
+    CDSTitle title;
+    ProbeNode leaf;
+    title.SetID(1);
+    leaf.SetID(2);
+    title.AddChild(&leaf, false);
+    EXPECT_EQ(recorder.Traverse(&title, 42), status::kOk);
+    EXPECT_EQ(recorder.visited, (std::vector<long>{ 1, 2 }));
 }

@@ -184,16 +184,6 @@ TEST(RichTextEditing, OnAndOffAgainAndAgainIsAsOnce)
     EXPECT_EQ(Summary(xml.root()), "'abcde\n' style 201 align center");
 }
 
-TEST(RichTextEditing, LooksOfAnEmptyTextWaitForItsWords)
-{
-    const XmlText xml{ "<body>old</body>" };
-    Editor editor(xml.root());
-    for (const char* format :
-         { "r:", "f:<b></b>", "f:<p align=centre></p>", "f:<font face=C></font>", "r:new" })
-        EXPECT_EQ(editor.Apply(format), status::kOk);
-    EXPECT_EQ(Summary(xml.root()), "'new' style 201 face C align center");
-}
-
 TEST(RichTextEditing, RequestsAreStatedInTheEditLanguage)
 {
     const XmlText xml{ "<body>a</body>" };

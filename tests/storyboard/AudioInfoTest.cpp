@@ -54,71 +54,60 @@ TEST(AudioInfo, LaterLevelsAndFirstModelsWin)
     AudioInfoText(audio);
 }
 
-struct ModelCase
+TEST(EqualizerModels, AreValidWhenEveryBandMakesSense)
 {
-    const char* name;
-    const char* content;
-    Status result;
-    bool valid;
-    long length;
-    std::vector<float> frequencies; ///< empty for no arrays
-};
-class EqualizerModels : public testing::TestWithParam<ModelCase>
-{};
-
-TEST_P(EqualizerModels, AreValidWhenEveryBandMakesSense)
-{
-    const XmlText xml{ std::string("<O>") + GetParam().content + "</O>" };
-    EQualizerModel model(xml.root());
-    EXPECT_EQ(model.PersistToXML(xml.root(), false), GetParam().result);
-    EXPECT_EQ(model.m_isValid, GetParam().valid);
-    EXPECT_EQ(model.m_fftLength, GetParam().length);
-    ASSERT_EQ(model.m_frequencies != nullptr, !GetParam().frequencies.empty());
-    for (std::size_t i = 0; i < GetParam().frequencies.size(); ++i)
-        EXPECT_EQ(model.m_frequencies[i], GetParam().frequencies[i]) << i;
-    const EmptyXml out{ "O" };
-    EXPECT_EQ(model.PersistToXML(out.root(), true), status::kOk);
+    const struct
+    {
+        const char* content;
+        Status result;
+        bool valid;
+        long length;
+        std::vector<float> frequencies; ///< empty for no arrays
+    } cases[] = {
+        { "<Bands>2</Bands><FFTLeng>512</FFTLeng><Band_1><Valu>2</Valu><Freq>20</Freq></Band_1>"
+          "<Band_0><Freq>10</Freq><Valu>1</Valu></Band_0>",
+          status::kOk,
+          true,
+          512,
+          { 10.0F, 20.0F } },
+        { "<Bands>3</Bands><FFTLeng>512</FFTLeng><Band_0><Valu>1</Valu><Freq>10</Freq></Band_0>"
+          "<Band_2><Valu>3</Valu><Freq>30</Freq></Band_2>"
+          "<Band_02><Valu>3</Valu><Freq>40</Freq></Band_02>"
+          "<Band_2><Valu>3</Valu><Freq>50</Freq></Band_2>"
+          "<Band_3><Valu>3</Valu><Freq>60</Freq></Band_3>",
+          status::kOk,
+          true,
+          512,
+          { 10.0F, 30.0F, 0.0F } },
+        { "<Bands>1</Bands><FFTLeng>512</FFTLeng><Band_0><Valu>1</Valu></Band_0>",
+          status::kOk,
+          false,
+          512,
+          { 0.0F } },
+        { "<Bands>1</Bands><Band_0><Valu>1</Valu><Freq>1e300</Freq></Band_0>",
+          status::kNothingDone,
+          false,
+          2048,
+          { std::numeric_limits<float>::infinity() } },
+        { "<Bands>0</Bands>", status::kOk, true, 16, {} },
+        { "", status::kNothingDone, false, 16, {} },
+        { "<Bands>-1</Bands>", status::kBadArgument, false, 16, {} },
+        { "<Bands>65537</Bands>", status::kBadArgument, false, 16, {} },
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.content);
+        const XmlText xml{ std::string("<O>") + c.content + "</O>" };
+        EQualizerModel model(xml.root());
+        EXPECT_EQ(model.PersistToXML(xml.root(), false), c.result);
+        EXPECT_EQ(model.m_isValid, c.valid);
+        EXPECT_EQ(model.m_fftLength, c.length);
+        ASSERT_EQ(model.m_frequencies != nullptr, !c.frequencies.empty());
+        for (std::size_t i = 0; i < c.frequencies.size(); ++i)
+            EXPECT_EQ(model.m_frequencies[i], c.frequencies[i]) << i;
+        const EmptyXml out{ "O" };
+        EXPECT_EQ(model.PersistToXML(out.root(), true), status::kOk);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Contents, EqualizerModels,
-    testing::Values(
-        ModelCase{ "Whole",
-                   "<Bands>2</Bands><FFTLeng>512</FFTLeng>"
-                   "<Band_1><Valu>2</Valu><Freq>20</Freq></Band_1>"
-                   "<Band_0><Freq>10</Freq><Valu>1</Valu></Band_0>",
-                   status::kOk,
-                   true,
-                   512,
-                   { 10.0F, 20.0F } },
-        ModelCase{ "MissingBandsCloseUp",
-                   "<Bands>3</Bands><FFTLeng>512</FFTLeng>"
-                   "<Band_0><Valu>1</Valu><Freq>10</Freq></Band_0>"
-                   "<Band_2><Valu>3</Valu><Freq>30</Freq></Band_2>"
-                   "<Band_02><Valu>3</Valu><Freq>40</Freq></Band_02>"
-                   "<Band_2><Valu>3</Valu><Freq>50</Freq></Band_2>"
-                   "<Band_3><Valu>3</Valu><Freq>60</Freq></Band_3>",
-                   status::kOk,
-                   true,
-                   512,
-                   { 10.0F, 30.0F, 0.0F } },
-        ModelCase{ "BandWithoutFrequency",
-                   "<Bands>1</Bands><FFTLeng>512</FFTLeng><Band_0><Valu>1</Valu></Band_0>",
-                   status::kOk,
-                   false,
-                   512,
-                   { 0.0F } },
-        ModelCase{ "NoLength",
-                   "<Bands>1</Bands><Band_0><Valu>1</Valu><Freq>1e300</Freq></Band_0>",
-                   status::kNothingDone,
-                   false,
-                   2048,
-                   { std::numeric_limits<float>::infinity() } },
-        ModelCase{ "NoBands", "<Bands>0</Bands>", status::kOk, true, 16, {} },
-        ModelCase{ "NothingTold", "", status::kNothingDone, false, 16, {} },
-        ModelCase{ "NegativeBands", "<Bands>-1</Bands>", status::kBadArgument, false, 16, {} },
-        ModelCase{ "TooManyBands", "<Bands>65537</Bands>", status::kBadArgument, false, 16, {} }),
-    [](const auto& row) { return row.param.name; });
 
 TEST(EqualizerModels, NullIsNoModel)
 {

@@ -80,16 +80,13 @@ TEST_F(MarkerIds, TimingIsThatOfThePanel)
     clip.m_outPoint = 5.0;
     CColorObject color;
     color.m_duration = 4.0;
-    double in = -7.0;
-    double out = -7.0;
+    double in = -7.0, out = -7.0;
     EXPECT_TRUE(m_list.GetInOutPoints(in, out));
-    EXPECT_EQ(in, -7.0);
+    EXPECT_EQ(in + out, -14.0);
     EXPECT_TRUE(color.GetInOutPoints(in, out));
-    EXPECT_EQ(in, 0.0);
-    EXPECT_EQ(out, 4.0);
+    EXPECT_EQ(std::pair(in, out), std::pair(0.0, 4.0));
     EXPECT_TRUE(clip.GetInOutPoints(in, out));
-    EXPECT_EQ(in, 2.0);
-    EXPECT_EQ(out, 5.0);
+    EXPECT_EQ(std::pair(in, out), std::pair(2.0, 5.0));
 
     EXPECT_TRUE(clip.IsTimingDirty());
     EXPECT_EQ(clip.m_listKey, 999);

@@ -30,19 +30,21 @@ std::string ChildNames(CPersistObject& object)
     return names;
 }
 
-template <class Object>
+template <class... Objects>
 void ExpectNoProductionYet()
 {
-    Object object;
-    CQZBaseSBD sbd;
-    CQZBaseSBD* out = nullptr;
-    EXPECT_EQ(object.get_ParentProduction(&out), status::kNullPointer);
-    EXPECT_EQ(object.put_ParentProduction(&sbd), status::kOk);
-    EXPECT_EQ(object.get_ParentProduction(nullptr), status::kNullPointer);
-    EXPECT_EQ(object.get_ParentProduction(&out), status::kOk);
-    EXPECT_EQ(out, &sbd);
-    EXPECT_EQ(object.PersistXML(nullptr, true), status::kBadArgument);
-    EXPECT_EQ(object.PersistXML(nullptr, false), status::kBadArgument);
+    const auto expect = [](auto object) {
+        CQZBaseSBD sbd;
+        CQZBaseSBD* out = nullptr;
+        EXPECT_EQ(object->get_ParentProduction(&out), status::kNullPointer);
+        EXPECT_EQ(object->put_ParentProduction(&sbd), status::kOk);
+        EXPECT_EQ(object->get_ParentProduction(nullptr), status::kNullPointer);
+        EXPECT_EQ(object->get_ParentProduction(&out), status::kOk);
+        EXPECT_EQ(out, &sbd);
+        EXPECT_EQ(object->PersistXML(nullptr, true), status::kBadArgument);
+        EXPECT_EQ(object->PersistXML(nullptr, false), status::kBadArgument);
+    };
+    (expect(std::make_unique<Objects>()), ...);
 }
 
 } // namespace
@@ -77,13 +79,8 @@ TEST(Panels, NewOnesWriteTheirPartsInOrder)
 
 TEST(Panels, EveryCompleteObjectKnowsItsProduction)
 {
-    ExpectNoProductionYet<CColorObject>();
-    ExpectNoProductionYet<CClipObject>();
-    ExpectNoProductionYet<CTransitionObject>();
-    ExpectNoProductionYet<CSourceFileObject>();
-    ExpectNoProductionYet<CEffectObject>();
-    ExpectNoProductionYet<CMotionObject>();
-    ExpectNoProductionYet<CAudioObject>();
+    ExpectNoProductionYet<CColorObject, CClipObject, CTransitionObject, CSourceFileObject,
+                          CEffectObject, CMotionObject, CAudioObject>();
 }
 
 TEST(BaseObject, IdIsNotTheFiles)
@@ -96,85 +93,58 @@ TEST(BaseObject, IdIsNotTheFiles)
     EXPECT_EQ(color.m_speed, 1.0);
 }
 
-struct ThumbnailCase
+TEST(Thumbnails, AreReadFromOlderFilesAndNeverWritten)
 {
-    const char* name;
-    const char* elements;
-    std::string bytes;
-};
-class Thumbnails : public testing::TestWithParam<ThumbnailCase>
-{};
-
-TEST_P(Thumbnails, AreReadFromOlderFilesAndNeverWritten)
-{
-    const std::string elements = GetParam().elements;
-    CColorObject color;
-    CEffectObject effect;
-    for (int twice = 0; twice < 2; ++twice) {
-        ReadObject(color, "<O><baseObject>" + elements + "</baseObject></O>");
-        ReadObject(effect, "<O><effectInfo>" + elements + "</effectInfo></O>");
-        EXPECT_EQ(std::string(color.m_thumbnail.get(), std::size_t(color.m_thumbnailSize)),
-                  GetParam().bytes);
-        EXPECT_EQ(std::string(effect.m_thumbnail.get(), std::size_t(effect.m_thumbnailSize)),
-                  GetParam().bytes);
+    constexpr std::pair<const char*, const char*> cases[] = {
+        { "<thumbnailSize>3</thumbnailSize><thumbnail>41 4243</thumbnail>", "ABC" },
+        { "<thumbnailSize>9223372036854775807</thumbnailSize><thumbnail>4142</thumbnail>", "AB" },
+        { "<thumbnailSize>1</thumbnailSize><thumbnail>4142</thumbnail>", "A" },
+        { "<thumbnailSize>2</thumbnailSize><thumbnail>41xx</thumbnail>", "" },
+        { "<thumbnail>4142</thumbnail>", "" },
+        { "<thumbnailSize>4</thumbnailSize>", "" },
+        { "<thumbnailSize>-4</thumbnailSize><thumbnail>4142</thumbnail>", "" },
+    };
+    for (const auto& [text, expected] : cases) {
+        const std::string elements = text, bytes = expected;
+        SCOPED_TRACE(elements);
+        CColorObject color;
+        CEffectObject effect;
+        for (int twice = 0; twice < 2; ++twice) {
+            ReadObject(color, "<O><baseObject>" + elements + "</baseObject></O>");
+            ReadObject(effect, "<O><effectInfo>" + elements + "</effectInfo></O>");
+            EXPECT_EQ(std::string(color.m_thumbnail.get(), std::size_t(color.m_thumbnailSize)),
+                      bytes);
+            EXPECT_EQ(std::string(effect.m_thumbnail.get(), std::size_t(effect.m_thumbnailSize)),
+                      bytes);
+        }
+        const bool there = !bytes.empty();
+        EXPECT_EQ(color.m_thumbnail != nullptr, there);
+        EXPECT_EQ(color.SaveThumbnail(1), there ? status::kOk : status::kNothingDone);
+        EXPECT_EQ(WrittenObject(color).find("thumbnail>"), std::string::npos);
+        EXPECT_EQ(color.LoadThumbnail(0), status::kNothingDone);
+        EXPECT_EQ(color.LoadThumbnail(5), status::kOk);
+        EXPECT_EQ(color.m_thumbnail, nullptr);
     }
-    const bool there = !GetParam().bytes.empty();
-    EXPECT_EQ(color.m_thumbnail != nullptr, there);
-    EXPECT_EQ(color.SaveThumbnail(1), there ? status::kOk : status::kNothingDone);
-    EXPECT_EQ(WrittenObject(color).find("thumbnail>"), std::string::npos);
-    EXPECT_EQ(color.LoadThumbnail(0), status::kNothingDone);
-    EXPECT_EQ(color.LoadThumbnail(5), status::kOk);
-    EXPECT_EQ(color.m_thumbnail, nullptr);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Elements, Thumbnails,
-    testing::Values(
-        ThumbnailCase{ "Whole", "<thumbnailSize>3</thumbnailSize><thumbnail>41 4243</thumbnail>",
-                       "ABC" },
-        ThumbnailCase{
-            "LessThanTheFileSays",
-            "<thumbnailSize>9223372036854775807</thumbnailSize><thumbnail>4142</thumbnail>", "AB" },
-        ThumbnailCase{ "MoreThanTheFileSays",
-                       "<thumbnailSize>1</thumbnailSize><thumbnail>4142</thumbnail>", "A" },
-        ThumbnailCase{ "NoBlob", "<thumbnailSize>2</thumbnailSize><thumbnail>41xx</thumbnail>",
-                       "" },
-        ThumbnailCase{ "NoSize", "<thumbnail>4142</thumbnail>", "" },
-        ThumbnailCase{ "NoBytes", "<thumbnailSize>4</thumbnailSize>", "" },
-        ThumbnailCase{ "NegativeSize",
-                       "<thumbnailSize>-4</thumbnailSize><thumbnail>4142</thumbnail>", "" }),
-    [](const auto& row) { return row.param.name; });
-
-struct FileNameCase
+TEST(FileNames, AreCleanedOnReading)
 {
-    const char* name;
-    const char* stored;
-    const char* read;
-};
-class FileNames : public testing::TestWithParam<FileNameCase>
-{};
-
-TEST_P(FileNames, AreCleanedOnReading)
-{
-    CSourceFileObject file;
-    file.m_fileName = "former";
-    std::string text, stored = GetParam().stored;
-    ReadObject(file, "<O><sourceFile><fileName>" + stored + "</fileName></sourceFile></O>");
-    EXPECT_EQ(file.get_FileName(&text), status::kOk);
-    EXPECT_EQ(text, GetParam().read);
-    EXPECT_NE(WrittenObject(file).find(">" + text + "<"), std::string::npos);
+    constexpr std::pair<const char*, const char*> cases[] = {
+        { R"(C:\\media\\a.mpg)", "C:/media/a.mpg" },
+        { R"(\\server\share\a.mpg)", "//server/share/a.mpg" },
+        { R"(vob:D:\\VIDEO_TS)", "vob:D://VIDEO_TS" },
+        { R"(%CONTENT%\\B\\a.mpg)", "/B/a.mpg" },
+        { R"(a\\\\b)", "a//b" },
+        { R"(\)", "/" },
+    };
+    for (const auto& [stored, expected] : cases) {
+        CSourceFileObject file;
+        ReadObject(file, std::string("<O><sourceFile><fileName>") + stored +
+                             "</fileName></sourceFile></O>");
+        EXPECT_EQ(file.m_fileName, expected);
+        EXPECT_NE(WrittenObject(file).find(">" + file.m_fileName + "<"), std::string::npos);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Names, FileNames,
-    testing::Values(FileNameCase{ "DoubledBackslashes", R"(C:\\media\\a.mpg)", "C:/media/a.mpg" },
-                    FileNameCase{ "NetworkPath", R"(\\server\share\a.mpg)",
-                                  "//server/share/a.mpg" },
-                    FileNameCase{ "VobIsLeftAlone", R"(vob:D:\\VIDEO_TS)", "vob:D://VIDEO_TS" },
-                    FileNameCase{ "ThemeFile", R"(%CONTENT%\\B\\a.mpg)", "/B/a.mpg" },
-                    FileNameCase{ "FourBackslashes", R"(a\\\\b)", "a//b" },
-                    FileNameCase{ "OneCharacter", R"(\)", "/" }),
-    [](const auto& row) { return row.param.name; });
 
 TEST(SourceFile, KeepsWhatItReadsAndTakesALongName)
 {

@@ -81,22 +81,6 @@ TEST(QZBaseSBD, PanelCountIsThatOfPanelsOrGroups)
     EXPECT_EQ(sbd.RemovePanel(1), status::kNothingDone);
 }
 
-TEST(QZBaseSBD, WhatFollowsAClipBearsItsType)
-{
-    CQZBaseSBD sbd;
-    sbd.AddTransition(-1);
-    sbd.AddClipPanel(0);
-    sbd.AddTransition(1);
-    sbd.AddColorPanel(2);
-    sbd.AddGroup(5);
-    const std::string text = WrittenObject(sbd);
-    for (const char* element :
-         { R"(<transition key="-1">)", R"(<clip key="0" type="file source">)",
-           R"(<transition key="1" type="file source">)", R"(<clip key="2" type="solid color">)",
-           R"(<group key="5" type="solid color">)" })
-        EXPECT_NE(text.find(element), std::string::npos) << element;
-}
-
 TEST(QZBaseSBD, UnknownOrMissingTypeIsAFile)
 {
     CQZBaseSBD sbd;
@@ -156,16 +140,4 @@ TEST(QZBaseSBD, IdsGoOnBehindTheLargest)
     sbd.m_nextID = 9223372036854775807L;
     EXPECT_EQ(sbd.NextID(), 1);
     EXPECT_EQ(sbd.NextID(), 2);
-}
-
-TEST(GroupObject, CopiesOutWhatIsAskedFor)
-{
-    CGroupObject group;
-    group.SetGroupInfo(1, 2, 3, "name", "description");
-    long end = 0;
-    std::string description;
-    EXPECT_EQ(group.GetGroupInfo(nullptr, nullptr, &end, nullptr, &description), status::kOk);
-    EXPECT_EQ(end, 3);
-    EXPECT_EQ(description, "description");
-    EXPECT_EQ(group.LoadXML(nullptr), status::kBadArgument);
 }

@@ -93,44 +93,38 @@ TEST(TransformProperties, CapsChangeWithinTheMask)
     EXPECT_EQ(caps, 0x1F30U);
 }
 
-struct AdjustCase
+TEST(KeyAdjustment, ShiftsTheAxesThatAKeyAllows)
 {
-    const char* name;
-    unsigned long mask, caps;
-    D3DXVECTOR3 amount;
-    Floats key, delta; ///< afterwards; the key was (1, 1, 1)
-    bool isTurnedScroll = false;
-};
-
-class KeyAdjustment : public testing::TestWithParam<AdjustCase>
-{};
-
-TEST_P(KeyAdjustment, ShiftsTheAxesThatAKeyAllows)
-{
-    const auto& [name, mask, caps, amount, key, delta, isTurnedScroll] = GetParam();
-    Transform transform;
-    transform.m_speed = isTurnedScroll ? 2 : 0;
-    transform.SetQuarterTurned(isTurnedScroll);
-    transform.Set3DKeyframe(mask, .5, P, 1, 1, 1, caps);
-    transform.Set3DKeyframe(mask, 0, S, 1, 1, 1, 0);
-    transform.Adjust3DKeyframesIntl(mask, amount.x, amount.y, amount.z, true, S);
-    EXPECT_EQ(transform.Adjust3DKeyframes(mask, amount.x, amount.y, amount.z), status::kOk);
-    EXPECT_EQ(transform.KeyAt(mask, .5, P), key);
-    EXPECT_THAT(transform.KeyAt(mask, 0), ElementsAre(1, 1, 1));
-    EXPECT_EQ(transform.DeltaOf(mask), delta);
-    transform.Reset3DKeyframesDelta(mask & 0x222); // one bit is enough
-    EXPECT_THAT(transform.DeltaOf(mask), ElementsAre(0, 0, 0));
+    const struct
+    {
+        const char* name;
+        unsigned long mask, caps;
+        D3DXVECTOR3 amount;
+        Floats key, delta; ///< afterwards; the key was (1, 1, 1)
+        bool isTurnedScroll;
+    } cases[] = {
+        { "one axis", T, 0x1, { 10, 20, 30 }, { 11, 1, 1 }, { 10, 0, 0 }, false },
+        { "z of rotation", R, 0x10, { 10, 20, 30 }, { 1, 1, 31 }, { 0, 0, 30 }, false },
+        { "scaling to zero", C, 0x700, { -5, -5, -5 }, { 0, -4, -4 }, { -5, -5, -5 }, false },
+        { "turned, in x", T, 0x2, { 10, 20, 30 }, { 1, 11, 1 }, { 10, 0, 0 }, true },
+        { "turned, in y", T, 0x1, { 10, 20, 30 }, { -19, 1, 1 }, { 0, 20, 0 }, true },
+    };
+    for (const auto& [name, mask, caps, amount, key, delta, isTurnedScroll] : cases) {
+        SCOPED_TRACE(name);
+        Transform transform;
+        transform.m_speed = isTurnedScroll ? 2 : 0;
+        transform.SetQuarterTurned(isTurnedScroll);
+        transform.Set3DKeyframe(mask, .5, P, 1, 1, 1, caps);
+        transform.Set3DKeyframe(mask, 0, S, 1, 1, 1, 0);
+        transform.Adjust3DKeyframesIntl(mask, amount.x, amount.y, amount.z, true, S);
+        EXPECT_EQ(transform.Adjust3DKeyframes(mask, amount.x, amount.y, amount.z), status::kOk);
+        EXPECT_EQ(transform.KeyAt(mask, .5, P), key);
+        EXPECT_THAT(transform.KeyAt(mask, 0), ElementsAre(1, 1, 1));
+        EXPECT_EQ(transform.DeltaOf(mask), delta);
+        transform.Reset3DKeyframesDelta(mask & 0x222); // one bit is enough
+        EXPECT_THAT(transform.DeltaOf(mask), ElementsAre(0, 0, 0));
+    }
 }
-
-// clang-format off
-INSTANTIATE_TEST_SUITE_P(Rows, KeyAdjustment, testing::Values(
-    AdjustCase{ "OneAxis", T, 0x1, { 10, 20, 30 }, { 11, 1, 1 }, { 10, 0, 0 } },
-    AdjustCase{ "ZOfRotationIsTheLowestBit", R, 0x10, { 10, 20, 30 }, { 1, 1, 31 }, { 0, 0, 30 } },
-    AdjustCase{ "ScalingStopsAtZeroInX", C, 0x700, { -5, -5, -5 }, { 0, -4, -4 }, { -5, -5, -5 } },
-    AdjustCase{ "TurnedScrollInX", T, 0x2, { 10, 20, 30 }, { 1, 11, 1 }, { 10, 0, 0 }, true },
-    AdjustCase{ "TurnedScrollInY", T, 0x1, { 10, 20, 30 }, { -19, 1, 1 }, { 0, 20, 0 }, true }),
-    [](const auto& row) { return row.param.name; });
-// clang-format on
 
 TEST(Adjustments, MakeAKeyWhereThereIsNone)
 {

@@ -53,22 +53,12 @@ TEST(XMLHelpers, WritesEachKindWithItsTypeWord)
         std::function<Status(_xmlNode*)> save;
         const char* text;
     } cases[] = {
-        { [](_xmlNode* p) { return Helpers::SaveLongNode(p, "v", "", -12); },
-          R"(<v dt:dt="i4">-12</v>)" },
         { [](_xmlNode* p) { return Helpers::SaveULongNode(p, "v", "", ~0UL); },
           R"(<v dt:dt="ui4">18446744073709551615</v>)" },
-        { [](_xmlNode* p) { return Helpers::SaveDoubleNode(p, "v", "", 1234567.5); },
-          R"(<v dt:dt="r8">1.23457e+06</v>)" },
         { [](_xmlNode* p) { return Helpers::SaveFloatNode(p, "v", "", 0.1F); },
           R"(<v dt:dt="r4">0.1</v>)" },
-        { [](_xmlNode* p) { return Helpers::SaveBoolNode(p, "v", "", true); },
-          R"(<v dt:dt="boolean">1</v>)" },
         { [](_xmlNode* p) { return Helpers::SaveStringNode(p, "v", "", "a < \x01\xC3\xBC"); },
           "<v dt:dt=\"string\">a &lt; \xEF\xBF\xBD\xC3\xBC</v>" },
-        { [](_xmlNode* p) { return Helpers::SaveInt2Node(p, "v", "", -7); },
-          R"(<v dt:dt="i2">-7</v>)" },
-        { [](_xmlNode* p) { return Helpers::SaveUInt2Node(p, "v", "", 65535); },
-          R"(<v dt:dt="ui2">65535</v>)" },
         { [&](_xmlNode* p) { return Helpers::SaveBlobNode(p, "v", "", bytes, 3); },
           R"(<v dt:dt="bin.hex">007fff</v>)" },
         { [](_xmlNode* p) { return Helpers::SaveCOLORREFNode(p, "v", "", 0xABC); },
@@ -91,20 +81,15 @@ TEST(XMLHelpers, WritesEachKindWithItsTypeWord)
 
 TEST(XMLHelpers, ReadsNumbersAsTheCLibraryDoes)
 {
-    constexpr long highest = std::numeric_limits<long>::max();
     EXPECT_EQ(Loaded(Helpers::LoadLongNode, "12abc", 5L), 12);
     EXPECT_EQ(Loaded(Helpers::LoadLongNode, "", 5L), 0);
     EXPECT_EQ(Loaded(Helpers::LoadLongNode, "<c/>12", 5L), 0); // only the first child counts
-    EXPECT_EQ(Loaded(Helpers::LoadLongNode, "9223372036854775807", 5L), highest);
     // Negative numbers that were written as unsigned ones come back as they were.
     EXPECT_EQ(Loaded(Helpers::LoadLongNode, "18446744073709551615", 5L), -1);
     EXPECT_EQ(Loaded(Helpers::LoadULongNode, "18446744073709551615", 5UL), ~0UL);
     EXPECT_EQ(Loaded(Helpers::LoadULongNode, "-2", 5UL), ~0UL - 1);
-    EXPECT_EQ(Loaded(Helpers::LoadDoubleNode, " 2.5e1x", 5.0), 25.0);
     EXPECT_EQ(Loaded(Helpers::LoadFloatNode, "1e300", 5.0F),
               std::numeric_limits<float>::infinity());
-    EXPECT_EQ(Loaded<short>(Helpers::LoadInt2Node, "-3", 5), -3);
-    EXPECT_EQ(Loaded<unsigned short>(Helpers::LoadUInt2Node, "65535", 5), 65535);
     EXPECT_TRUE(Loaded(Helpers::LoadBoolNode, "1", false));
     EXPECT_FALSE(Loaded(Helpers::LoadBoolNode, "true", true));
     EXPECT_FALSE(Loaded(Helpers::LoadBoolNode, "01", true));
@@ -127,36 +112,28 @@ TEST(XMLHelpers, ReadsColoursAndIdentifiers)
                   GuidText(kGuid));
 }
 
-struct BlobCase
+TEST(LoadBlob, FillsNoMoreThanThereIsRoomFor)
 {
-    const char* name;
-    const char* text;
-    Status result;
-    unsigned long size; ///< of a buffer that takes 3 bytes, afterwards
-    std::string bytes;
-};
-class LoadBlob : public testing::TestWithParam<BlobCase>
-{};
-
-TEST_P(LoadBlob, FillsNoMoreThanThereIsRoomFor)
-{
-    const XmlText xml{ std::string("<P><v>") + GetParam().text + "</v></P>" };
-    std::string bytes = "...!";
-    unsigned long size = 3;
-    EXPECT_EQ(Helpers::LoadBlobNode(xml.root(), "v", "", bytes.data(), size), GetParam().result);
-    EXPECT_EQ(size, GetParam().size);
-    EXPECT_EQ(bytes, GetParam().bytes);
+    const struct
+    {
+        const char* text;
+        Status result;
+        unsigned long size; ///< of a buffer that takes 3 bytes, afterwards
+        const char* bytes;
+    } cases[] = { { " 4a\n4B ", status::kOk, 2, "JK.!" },
+                  { "4142434445", status::kOk, 3, "ABC!" },
+                  { "", status::kOk, 0, "...!" },
+                  { "414", status::kBadArgument, 3, "...!" },
+                  { "4142434g", status::kBadArgument, 3, "...!" } };
+    for (const auto& c : cases) {
+        const XmlText xml{ std::string("<P><v>") + c.text + "</v></P>" };
+        std::string bytes = "...!";
+        unsigned long size = 3;
+        EXPECT_EQ(Helpers::LoadBlobNode(xml.root(), "v", "", bytes.data(), size), c.result);
+        EXPECT_EQ(size, c.size) << c.text;
+        EXPECT_EQ(bytes, c.bytes);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Texts, LoadBlob,
-    testing::Values(BlobCase{ "EitherCaseAndSpace", " 4a\n4B ", status::kOk, 2, "JK.!" },
-                    BlobCase{ "MoreThanRoom", "4142434445", status::kOk, 3, "ABC!" },
-                    BlobCase{ "Empty", "", status::kOk, 0, "...!" },
-                    BlobCase{ "OddDigits", "414", status::kBadArgument, 3, "...!" },
-                    BlobCase{ "BadDigitBehindTheRoom", "4142434g", status::kBadArgument, 3,
-                              "...!" }),
-    [](const auto& row) { return row.param.name; });
 
 TEST(XMLHelpers, MissingElementsAndParentsLeaveTheOutputAlone)
 {
@@ -198,11 +175,9 @@ TEST(XMLHelpers, NameSelectsAmongElements)
 TEST(XMLHelpers, VectorsWithoutAComponentHaveZeroThere)
 {
     const XmlText xml{ "<P><v><y>2.5</y></v></P>" };
-    D3DXVECTOR3 vector(1.0F, 1.0F, 1.0F);
-    EXPECT_EQ(Helpers::LoadD3DVECTOR3Node(xml.root(), "v", "", &vector), status::kOk);
-    EXPECT_EQ(vector.x, 0.0F);
-    EXPECT_EQ(vector.y, 2.5F);
-    EXPECT_EQ(vector.z, 0.0F);
+    D3DXVECTOR3 v(1.0F, 1.0F, 1.0F);
+    EXPECT_EQ(Helpers::LoadD3DVECTOR3Node(xml.root(), "v", "", &v), status::kOk);
+    EXPECT_TRUE(v.x == 0.0F && v.y == 2.5F && v.z == 0.0F);
 }
 
 TEST(XMLHelpers, AttributesComeAndGoThroughAMap)

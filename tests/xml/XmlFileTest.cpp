@@ -55,37 +55,23 @@ TEST(SerializeXml, GivesTheBytesOfAFormattedSave)
     EXPECT_EQ(bytes, ReadFile(folder / "by-libxml2.xml"));
 }
 
-struct NameCase
-{
-    const char* name;
-    const char* fileName;
-};
-class PlainPath : public testing::TestWithParam<NameCase>
-{};
-
-TEST_P(PlainPath, MeansItselfOnReadingAndWriting)
+TEST(PlainPath, MeansItselfOnReadingAndWriting)
 {
     const ScratchFolder folder;
-    const string path = folder / GetParam().fileName;
-    for (const auto write : { WriteFileInPlace, ReplaceFile }) {
-        ASSERT_EQ(write(path, "<r/>"), status::kOk);
-        EXPECT_EQ(ReadFile(path), "<r/>");
-        const XmlDocPtr doc = ReadXmlFile(path.c_str());
-        ASSERT_TRUE(doc);
-        EXPECT_EQ(Chars(doc->URL), path);
-        EXPECT_EQ(FilesIn(folder), 1U);
-        std::filesystem::remove(path);
+    for (const char* name : { "my disc.xml", "100%25 %41.xml", "a#b?c=d&e.xml", "http:example.xml",
+                              "d\xC3\xA9j\xC3\xA0 \xE9.xml", "-" }) {
+        const string path = folder / name;
+        for (const auto write : { WriteFileInPlace, ReplaceFile }) {
+            ASSERT_EQ(write(path, "<r/>"), status::kOk);
+            EXPECT_EQ(ReadFile(path), "<r/>");
+            const XmlDocPtr doc = ReadXmlFile(path.c_str());
+            ASSERT_TRUE(doc);
+            EXPECT_EQ(Chars(doc->URL), path);
+            EXPECT_EQ(FilesIn(folder), 1U);
+            std::filesystem::remove(path);
+        }
     }
 }
-
-INSTANTIATE_TEST_SUITE_P(Names, PlainPath,
-                         testing::Values(NameCase{ "Spaces", "my disc.xml" },
-                                         NameCase{ "Percent", "100%25 %41.xml" },
-                                         NameCase{ "HashAndQuery", "a#b?c=d&e.xml" },
-                                         NameCase{ "Colon", "http:example.xml" },
-                                         NameCase{ "NonAscii", "d\xC3\xA9j\xC3\xA0 \xE9.xml" },
-                                         NameCase{ "Dash", "-" }),
-                         [](const auto& row) { return row.param.name; });
 
 TEST(ReadXmlFile, OpensNothingButTheFile)
 {
