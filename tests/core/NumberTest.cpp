@@ -11,6 +11,8 @@
 #include <locale>
 #include <random>
 #include <sstream>
+#include <string>
+#include <vector>
 
 using namespace vantrel;
 

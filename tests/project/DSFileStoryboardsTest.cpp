@@ -12,15 +12,6 @@ using namespace vantrel;
 
 namespace {
 
-/// The names of an element's child elements.
-string ChildNames(const _xmlNode* parent)
-{
-    string names;
-    for (const xmlNode* child : ChildElements(parent))
-        names += (names.empty() ? "" : " ") + string(NameOf(child));
-    return names;
-}
-
 /// A "clip" of a storyboard's element, with an effect whose data a load takes out of the document.
 string Clip(double duration)
 {

@@ -19,15 +19,10 @@ constexpr const char* kNewBase =
     R"(</baseObject>)";
 constexpr const char* kNewParent = "<parentObject><effects/><audioList/></parentObject>";
 
-/// The names of an element's children, in order.
-std::string ChildNames(CPersistObject& object)
+/// The names of the elements that an object writes.
+std::string PartsOf(CPersistObject& object)
 {
-    const EmptyXml xml{ "O" };
-    EXPECT_EQ(object.SaveXML(xml.root()), status::kOk);
-    std::string names;
-    for (const _xmlNode* child : vantrel::ChildElements(xml.root()))
-        names.append(names.empty() ? "" : " ").append(vantrel::NameOf(child));
-    return names;
+    return ChildNames(XmlText(WrittenObject(object)).root());
 }
 
 template <class... Objects>
@@ -58,12 +53,12 @@ TEST(Panels, NewOnesWriteTheirPartsInOrder)
     CTransitionObject transition;
     EXPECT_EQ(WrittenObject(transition), std::string("<O>") + kNewBase + "</O>");
     CClipObject clip;
-    EXPECT_EQ(ChildNames(clip), "baseObject sourceFile parentObject nativeinfo");
+    EXPECT_EQ(PartsOf(clip), "baseObject sourceFile parentObject nativeinfo");
     CMotionObject motion;
     EXPECT_TRUE(motion.IsMotion());
-    EXPECT_EQ(ChildNames(motion), "sourceFile subObject effectInfo parentObject nativeinfo");
+    EXPECT_EQ(PartsOf(motion), "sourceFile subObject effectInfo parentObject nativeinfo");
     CAudioObject audio;
-    EXPECT_EQ(ChildNames(audio), "audioInfo subObject sourceFile");
+    EXPECT_EQ(PartsOf(audio), "audioInfo subObject sourceFile");
     CEffectObject effect;
     EXPECT_FALSE(effect.IsMotion());
     EXPECT_EQ(WrittenObject(effect),

@@ -74,6 +74,15 @@ inline std::string TextOf(_xmlNode* node)
     return text;
 }
 
+/// The names of an element's child elements, in order.
+inline std::string ChildNames(const _xmlNode* parent)
+{
+    std::string names;
+    for (const _xmlNode* child : vantrel::ChildElements(parent))
+        names.append(names.empty() ? "" : " ").append(vantrel::NameOf(child));
+    return names;
+}
+
 /// A folder of its own for a test's files, gone afterwards.
 class ScratchFolder
 {

@@ -89,13 +89,11 @@ TEST(EffectHandle, ReachesThePartsOfTheCompleteObject)
                                       motion.m_outPoint, double(motion.m_rotation) }),
                 testing::ElementsAre(1, 2, 3, 4, 5));
     EXPECT_EQ(motion.m_fileName + motion.m_alphaFile->m_fileName, "a.mpgmask.png");
-    double read = 0;
-    for (const auto get : { &CQZEffect::getStartOffset, &CQZEffect::getEndOffset,
-                            &CQZEffect::getInPoint, &CQZEffect::getOutPoint }) {
-        const double last = read;
-        EXPECT_EQ((handle.*get)(&read), status::kOk);
-        EXPECT_EQ(read, last + 1);
-    }
+    double read[4] = {};
+    EXPECT_EQ(handle.getStartOffset(&read[0]) + handle.getEndOffset(&read[1]) +
+                  handle.getInPoint(&read[2]) + handle.getOutPoint(&read[3]),
+              status::kOk);
+    EXPECT_THAT(read, testing::ElementsAre(1, 2, 3, 4));
     string path;
     EXPECT_EQ(handle.getSource(&path), status::kOk);
     EXPECT_EQ(path, "a.mpg");
