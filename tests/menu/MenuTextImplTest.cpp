@@ -72,6 +72,9 @@ TEST(Text, WithoutXmlAnswersNothingAndTakesNothing)
     FloatPoint corners[4] = { { 5, 5 } };
     EXPECT_EQ(withoutXml.GetBoundingBox(corners), status::kOk);
     EXPECT_EQ(corners[0].x, 5);
+    FPoint scale(9, 9);
+    EXPECT_EQ(withoutXml.getScalingXForm(&scale), status::kOk);
+    EXPECT_EQ(scale.x, 0);
     std::vector<FPoint> model;
     EXPECT_EQ(withoutXml.getModelRect(model), status::kNothingDone);
     EXPECT_EQ(ExtentOf(withoutXml), "0 0 0 0");
