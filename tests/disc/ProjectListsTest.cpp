@@ -130,6 +130,14 @@ TEST_P(NumberedList, AddsANodeThatItHoldsByMovingIt)
     EXPECT_EQ(IdsIn(list()), "3/2/1");
 }
 
+TEST_P(NumberedList, GivesAnIdToANodeWithout)
+{
+    const auto node = GetParam().make(0);
+    const IdCounterGuard guard(50);
+    EXPECT_EQ(GetParam().add(project, 0, node.get()), status::kOk);
+    EXPECT_EQ(node->GetID(), 50);
+}
+
 TEST_P(NumberedList, RemovesByNodeOrById)
 {
     Fill(4);
@@ -147,6 +155,10 @@ TEST_P(NumberedList, RemovesByNodeOrById)
 
     for (CProjectNode* removed : { first, third, mine.get() })
         EXPECT_EQ(removed->GetParent(), nullptr); // detached, and alive
+    EXPECT_EQ(GetParam().add(project, 1, third), status::kOk);
+    EXPECT_EQ(GetParam().remove(project, 3, nullptr), status::kOk);
+    EXPECT_EQ(GetParam().add(project, 2, third), status::kOk);
+    EXPECT_EQ(IdsIn(list()), "2/3/4");
 }
 
 TEST_P(NumberedList, MovesFromPlaceToPlace)
