@@ -133,7 +133,9 @@ Status CDSFileService::PersistProductionXML(_xmlNode* productions, CQZBaseSBD* s
         (void)storyboard->LoadProductionFromXML(FindChildElement(productions, name));
         return status::kOk;
     }
-    XmlNodePtr element{ xmlNewDocNode(productions->doc, nullptr, XmlChars(name.c_str()), nullptr) };
+    // Made without a document: a name that stands once would do nothing in the document's dictionary
+    // but let it grow.
+    XmlNodePtr element{ xmlNewNode(nullptr, XmlChars(name.c_str())) };
     if (element && xmlAddChild(productions, element.get()))
         (void)storyboard->SaveProductionToXML(element.release()); // told by what is in the file
     return status::kOk;
