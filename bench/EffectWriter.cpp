@@ -31,12 +31,12 @@ void EffectWriter::WriteText()
     WriteFacts();
     WriteRichText();
     m_out.Close();
-    CloseEffect();
+    m_out.Close();
 }
 
-void EffectWriter::WriteCaption(const char* uuid)
+void EffectWriter::WriteCaption()
 {
-    OpenEffect(uuid);
+    OpenEffect(kTextUuid);
     m_out.Value("name", "string", "Caption");
     m_out.Open("plugin_data");
     WriteTrack("Translation", kTranslation, { kStart, kEnd }, 3);
@@ -44,31 +44,26 @@ void EffectWriter::WriteCaption(const char* uuid)
     WriteFacts();
     WriteRichText();
     m_out.Close();
-    CloseEffect();
+    m_out.Close();
 }
 
-void EffectWriter::WriteMove(const char* uuid, const char* name)
+void EffectWriter::WriteMove(const char* uuid)
 {
     OpenEffect(uuid);
-    m_out.Value("name", "string", name);
+    m_out.Value("name", "string", "Pan and zoom");
     m_out.Open("plugin_data");
     WriteTrack("Translation", kTranslation, { kStart, kEnd, kPercentage }, 3);
     WriteTrack("Rotation", kRotation, { kStart, kEnd }, 2);
     WriteTrack("Scaling", kScaling, { kStart, kEnd, kPercentage }, 2);
     WriteFacts();
     m_out.Close();
-    CloseEffect();
+    m_out.Close();
 }
 
 void EffectWriter::OpenEffect(const char* uuid)
 {
     m_out.Open("effect");
     m_out.Value("uuid", "uuid", uuid);
-}
-
-void EffectWriter::CloseEffect()
-{
-    m_out.Close();
 }
 
 void EffectWriter::WriteTrack(const char* name, int caps, std::initializer_list<const char*> lists,

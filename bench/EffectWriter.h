@@ -3,6 +3,8 @@
 #include "Choices.h"
 #include "ElementWriter.h"
 
+#include <initializer_list>
+
 namespace bench {
 
 /// Writes what an effect says of itself: the XML that objects keep as it is.
@@ -14,13 +16,12 @@ public:
     /// The "effect" of a text on a menu.
     void WriteText();
     /// The "effect" of words over a clip.
-    void WriteCaption(const char* uuid);
+    void WriteCaption();
     /// The "effect" of a picture that moves, with keys in between.
-    void WriteMove(const char* uuid, const char* name);
+    void WriteMove(const char* uuid);
 
 private:
     void OpenEffect(const char* uuid);
-    void CloseEffect();
     void WriteTrack(const char* name, int caps, std::initializer_list<const char*> lists,
                     unsigned keys);
     void WriteVector(const char* name);

@@ -17,6 +17,7 @@ struct Measurement
 {
     double seconds = 0.0;   ///< by the clock
     double processor = 0.0; ///< seconds that the processor worked, which no other program disturbs
+    double tidied = 0.0;    ///< the same with what the heap leaves to be done after a release
     double kilobytes = 0.0; ///< peak of resident memory above what was there before the work
 };
 

@@ -101,7 +101,7 @@ long NodeWriter::WriteMenu(ElementWriter& out, const MenuShape& shape)
     return id;
 }
 
-long NodeWriter::WriteFile(ElementWriter& out)
+void NodeWriter::WriteFile(ElementWriter& out)
 {
     const long id = ++m_lastID;
     out.Open("File");
@@ -111,7 +111,6 @@ long NodeWriter::WriteFile(ElementWriter& out)
                   m_choices.Path(m_choices.Pick(kFolders), m_choices.Pick(kExtensions)));
     out.Attribute("tag", m_choices.Below(5));
     out.Close();
-    return id;
 }
 
 void NodeWriter::WriteCommand(ElementWriter& out)
@@ -195,9 +194,8 @@ void NodeWriter::WriteButton(ElementWriter& out, const MenuShape& shape)
     out.Attribute("buttonTextCache", label);
     out.Attribute("flags", 0);
     out.Attribute("label", label);
-    if (shape.background) {
+    if (shape.background)
         out.Attribute("rotation", 0);
-    }
     out.Attribute("scheme", m_choices.Below(4));
     out.Attribute("tag", "32 (Command)");
     out.Attribute("templateID", 0);

@@ -19,11 +19,11 @@ class NodeWriter
 public:
     explicit NodeWriter(Choices& choices) : m_choices(choices) {}
 
-    /// Give the ID of what they wrote.
+    /// These two give the ID of what they wrote, by which its storyboard is named.
     long WriteTitle(ElementWriter& out);
     long WriteMenu(ElementWriter& out, const MenuShape& shape);
-    long WriteFile(ElementWriter& out);
 
+    void WriteFile(ElementWriter& out);
     void WriteCommand(ElementWriter& out);
     void WriteEncoding(ElementWriter& out);
 

@@ -2,6 +2,7 @@
 
 #include "StoryboardWriter.h"
 
+#include <algorithm>
 #include <cstdio>
 
 using std::string;
@@ -11,7 +12,8 @@ namespace bench {
 namespace {
 
 constexpr const char* kDeclaration = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
-constexpr std::size_t kClipSize = 25'000; // bytes, about
+constexpr std::size_t kClipSize = 30'000; // bytes, about
+constexpr std::size_t kFewestClips = 2;   // one of a file, one of a colour
 constexpr const char* kDataTypes = "urn:schemas-microsoft-com:datatypes";
 
 /// Collects the nodes of one project, list by list, and the storyboards that belong to them.
@@ -35,7 +37,7 @@ public:
 
     void AddFile()
     {
-        (void)m_nodes.WriteFile(m_files); // nothing refers to it
+        m_nodes.WriteFile(m_files);
         ++m_fileCount;
     }
 
@@ -43,13 +45,15 @@ public:
 
     unsigned Below(unsigned end) { return m_choices.Below(end); }
 
-    std::size_t TitleSize() const
+    /// Of the nodes and storyboards so far, in bytes.
+    std::size_t Size() const
     {
-        return m_titles.Text().size() + m_titleStoryboards.Text().size();
+        std::size_t size = 0;
+        for (const ElementWriter* part : { &m_titles, &m_menus, &m_files, &m_commands,
+                                           &m_titleStoryboards, &m_menuStoryboards })
+            size += part->Text().size();
+        return size;
     }
-    std::size_t MenuSize() const { return m_menus.Text().size() + m_menuStoryboards.Text().size(); }
-    std::size_t FileSize() const { return m_files.Text().size(); }
-    std::size_t CommandSize() const { return m_commands.Text().size(); }
 
     string Text(const string& name)
     {
@@ -127,18 +131,19 @@ private:
 string GenerateProject(std::size_t size, const string& name)
 {
     Project project;
-    // Percent of the file: what a long project consists of.
+    // Percent of the file: what a long project consists of. Each share ends where it should, though
+    // the one before was exceeded.
     const std::size_t titles = size / 100 * 60;
-    while (project.TitleSize() < titles) {
-        const unsigned clips = 3 + project.Below(5);
-        const std::size_t room = (titles - project.TitleSize()) / kClipSize + 1;
-        project.AddTitle(room < clips ? static_cast<unsigned>(room) : clips);
+    while (project.Size() < titles) {
+        const std::size_t room = (titles - project.Size()) / kClipSize;
+        const std::size_t most = 3 + project.Below(5);
+        project.AddTitle(static_cast<unsigned>(std::clamp(room, kFewestClips, most)));
     }
-    while (project.MenuSize() < size / 100 * 30)
-        project.AddMenu({ 2 + project.Below(4), true });
-    while (project.FileSize() < size / 100 * 8)
+    while (project.Size() < size / 100 * 90)
+        project.AddMenu({ .buttons = 2 + project.Below(4), .hasElements = true });
+    while (project.Size() < size / 100 * 98)
         project.AddFile();
-    while (project.CommandSize() < size / 100 * 2)
+    while (project.Size() < size)
         project.AddCommand();
     return project.Text(name);
 }

@@ -15,6 +15,12 @@ namespace bench {
 namespace {
 
 constexpr double kTransition = 1.0; // seconds
+
+/// True for the keys of clips that are of one colour; the others show a file.
+constexpr bool IsColor(long key)
+{
+    return key % 8 == 2;
+}
 constexpr const char* kMoveUuid = "{3C5A0E52-77D1-4B0C-9A3E-5D0B1E8F4A11}";
 constexpr const char* kFileSource = "file source";
 constexpr const char* kSolidColor = "solid color";
@@ -245,7 +251,7 @@ void StoryboardWriter::Write(const string& name, const Durations& durations, boo
     for (const double duration : durations) {
         const long key = 2 * static_cast<long>(clips.size());
         ElementWriter& clip = clips.emplace_back(m_out.Depth());
-        if (key % 8 == 4)
+        if (IsColor(key))
             WriteColorClip(clip, key, duration);
         else
             WriteFileClip(clip, key, duration, isRich);
@@ -294,7 +300,7 @@ void StoryboardWriter::WriteProduction(const Durations& durations, bool isRich)
 /// A transition bears the type of the clip before it.
 void StoryboardWriter::WriteTransition(long key)
 {
-    OpenPanel(m_out, "transition", key, (key - 1) % 8 == 4 ? kSolidColor : kFileSource);
+    OpenPanel(m_out, "transition", key, IsColor(key - 1) ? kSolidColor : kFileSource);
     WriteBase(m_out, key, kTransition);
     m_out.Close();
 }
@@ -304,10 +310,11 @@ void StoryboardWriter::WriteGroups(std::size_t clips)
 {
     m_out.Open("groups");
     if (clips > 0) {
-        OpenPanel(m_out, "group", 0, (clips - 1) % 4 == 2 ? kSolidColor : kFileSource);
+        const long last = 2 * static_cast<long>(clips) - 2;
+        OpenPanel(m_out, "group", 0, IsColor(last) ? kSolidColor : kFileSource);
         m_out.Value("id", "i4", 1);
         m_out.Value("start", "i4", 0);
-        m_out.Value("end", "i4", 2 * (clips - 1));
+        m_out.Value("end", "i4", last);
         m_out.Value("name", "string", m_choices.Words(2));
         m_out.Value("description", "string", m_choices.Words(5));
         m_out.Close();
@@ -329,7 +336,7 @@ void StoryboardWriter::WriteFileClip(ElementWriter& out, long key, double durati
     WriteBase(out, key, duration);
     WriteSource(out, file, duration);
     WriteParent(out, effects, audio);
-    WriteNative(out, isRich && key % 8 == 0 ? &file : nullptr, duration);
+    WriteNative(out, isRich && key % 16 == 0 ? &file : nullptr, duration);
     if (isRich)
         WriteMarkers(out, duration);
     out.Close();
@@ -362,7 +369,7 @@ void StoryboardWriter::WriteBase(ElementWriter& out, long key, double duration)
 void StoryboardWriter::WriteEffects(ElementWriter& out, long key, double duration)
 {
     WriteEffect(out, { 0, 3 }, duration, false);
-    if (key % 8 == 2)
+    if (key % 8 == 0)
         WriteMotion(out, { 2, 0 }, duration);
     WriteEffect(out, { 5, 1 }, duration, true);
 }
@@ -413,9 +420,9 @@ void StoryboardWriter::WriteInfo(ElementWriter& out, long id, Layer layer, bool 
     out.Open("data");
     EffectWriter effect(out, m_choices);
     if (isCaption)
-        effect.WriteCaption(uuid);
+        effect.WriteCaption();
     else
-        effect.WriteMove(uuid, "Pan and zoom");
+        effect.WriteMove(uuid);
     out.Close();
     out.Close();
 }

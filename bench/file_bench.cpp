@@ -14,6 +14,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -129,8 +130,8 @@ Measurement MeasureInChild(Work work, const string& file, const string& out)
     const string text =
         OutputOfSelf({ kMeasure, std::to_string(static_cast<int>(work)), file, out });
     Measurement result;
-    if (std::sscanf(text.c_str(), "%lf %lf %lf", &result.seconds, &result.processor,
-                    &result.kilobytes) != 3) {
+    if (std::sscanf(text.c_str(), "%lf %lf %lf %lf", &result.seconds, &result.processor,
+                    &result.tidied, &result.kilobytes) != 4) {
         std::fprintf(stderr, "file_bench: a measurement gave no figures\n");
         std::exit(1);
     }
@@ -141,7 +142,8 @@ int RunChild(char** arguments)
 {
     const Measurement result =
         Measure(static_cast<Work>(std::atoi(arguments[2])), arguments[3], arguments[4]);
-    std::printf("%.9f %.9f %.0f\n", result.seconds, result.processor, result.kilobytes);
+    std::printf("%.9f %.9f %.9f %.0f\n", result.seconds, result.processor, result.tidied,
+                result.kilobytes);
     return 0;
 }
 
@@ -159,13 +161,8 @@ constexpr double kMemoryAim = 1.2;
 
 constexpr double kGrowthAim = 1.1;
 
-/// A figure of a case before, for what must not grow from one case of an item to the next.
-struct Figure
-{
-    string what;
-    string item;
-    double perItem;
-};
+/// The processor's time of a work for one item, in the first file of such items.
+using ItemTimes = std::map<string, double>;
 
 /// One line of the table; `unit` is what the figure is multiplied by for showing.
 void PrintRow(const char* name, const string& what, const char* unitName, double unit, double ours,
@@ -176,19 +173,19 @@ void PrintRow(const char* name, const string& what, const char* unitName, double
     std::fflush(stdout);
 }
 
-/// Shows the processor's time for one item beside that of the case before.
-void PrintGrowth(const Case& one, const string& what, double seconds)
+/// Shows the time for one item beside that in the smaller file of such items.
+void PrintGrowth(const Case& one, const char* work, double seconds, ItemTimes& times)
 {
-    static Figure before[std::size(kPairs)];
-    const double perItem = seconds / static_cast<double>(one.count);
-    Figure& last = before[what == kPairs[0].name ? 0 : 1];
-    if (last.item == one.item)
-        PrintRow(one.name, what + ", a " + one.item, "us", 1e6, perItem, last.perItem, kGrowthAim);
-    last = { what, one.item, perItem };
+    const string what = string(work) + ", a " + one.item;
+    const double time = seconds / static_cast<double>(one.count);
+    const auto [smaller, isFirst] = times.try_emplace(what, time);
+    if (!isFirst)
+        PrintRow(one.name, what, "us", 1e6, time, smaller->second, kGrowthAim);
 }
 
 /// Measures both sides in turn.
-void MeasurePair(const Case& one, const Pair& pair, const string& file, const string& out)
+void MeasurePair(const Case& one, const Pair& pair, const string& file, const string& out,
+                 ItemTimes& times)
 {
     std::vector<Measurement> ours;
     std::vector<Measurement> floor;
@@ -205,9 +202,10 @@ void MeasurePair(const Case& one, const Pair& pair, const string& file, const st
     };
     print("", &Measurement::seconds, "ms", 1e3, pair.aim);
     print(", processor", &Measurement::processor, "ms", 1e3, pair.aim);
+    print(", heap tidied", &Measurement::tidied, "ms", 1e3, pair.aim);
     print(", memory", &Measurement::kilobytes, "MB", 1.0 / 1024, kMemoryAim);
     if (one.item)
-        PrintGrowth(one, pair.name, Median(ours, &Measurement::processor));
+        PrintGrowth(one, pair.name, Median(ours, &Measurement::processor), times);
 }
 
 /// Both ways of saving must give the file that was loaded, or the figures compare nothing.
@@ -222,7 +220,13 @@ void CheckSaves(const string& file, const string& out)
     }
 }
 
-void MeasureCases(bool isQuick)
+bool IsChosen(const Case& one, const string& choice)
+{
+    return choice == "--quick" ? !one.isLong : string(one.name).find(choice) != string::npos;
+}
+
+/// All files, those of a quick run, or those whose name contains `choice`.
+void MeasureCases(const string& choice)
 {
     const ScratchFolder scratch;
     // Templates are looked for in the folder "Content" of the project.
@@ -233,13 +237,14 @@ void MeasureCases(bool isQuick)
     WriteText(scratch.File("Content/") + kTemplate, GenerateTemplate());
 
     std::printf("%-14s%-20s%13s%13s%8s%7s\n", "File", "", "ours", "floor", "ratio", "aim");
+    ItemTimes times;
     for (const Case& one : kCases) {
-        if (one.isLong && isQuick)
+        if (!IsChosen(one, choice))
             continue;
         WriteText(file, one.generate(one.count));
         CheckSaves(file, out);
         for (const Pair& pair : kPairs)
-            MeasurePair(one, pair, file, out);
+            MeasurePair(one, pair, file, out, times);
     }
 }
 
@@ -250,12 +255,13 @@ int main(int argc, char** argv)
     if (argc == 5 && string(argv[1]) == kMeasure)
         return RunChild(argv);
 
-    const bool isQuick = argc == 2 && string(argv[1]) == "--quick";
-    if (argc > 1 && !isQuick) {
-        std::fprintf(stderr, "Usage: file_bench [--quick]\n"
-                             "A quick run leaves the largest files out.\n");
+    const string choice = argc > 1 ? argv[1] : "";
+    if (argc > 2 || choice == "--help") {
+        std::fprintf(stderr, "Usage: file_bench [--quick | FILE]\n"
+                             "A quick run leaves the largest files out. FILE is part of a name in\n"
+                             "the table, for a run with such files alone.\n");
         return 2;
     }
-    MeasureCases(isQuick);
+    MeasureCases(choice);
     return 0;
 }
