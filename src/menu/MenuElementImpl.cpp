@@ -5,6 +5,8 @@
 #include "menu/GeometryUtils.h"
 #include "project/ProjectNode.h"
 
+#include <cmath>
+
 using std::map;
 using std::string;
 using std::vector;
@@ -118,6 +120,8 @@ Status CMenuElementImpl::setTimeOffsets(const double* start, const double* end)
         return status::kNullPointer;
     if (!HasEffect())
         return status::kNothingDone;
+    if (!std::isfinite(*start) || !std::isfinite(*end))
+        return status::kBadArgument; // before the first of them is set
     const Status set = m_effect.setStartOffset(*start);
     return Failed(set) ? set : m_effect.setEndOffset(*end);
 }

@@ -46,7 +46,7 @@ public:
     virtual Status getExtent(FRect* out) const;
 
     /// The times, in seconds, that the effect starts after and ends before its surroundings. 1
-    /// without an effect.
+    /// without an effect; a number that is not finite gives `status::kBadArgument`.
     virtual Status setTimeOffsets(const double* start, const double* end);
 
     /// Takes over the attributes of the element part: with `ownGeometry` position, rotation and depth

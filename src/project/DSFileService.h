@@ -64,8 +64,9 @@ public:
     /// the node's ID. A native menu's storyboard comes from its template.
     /// @{
     /// Writes or reads the storyboards of the titles, then of the menus. A title gets a storyboard
-    /// when there is an element for it. What fails in one spoils no more than that one: the result is
-    /// 0, and `status::kNullPointer` for a null argument.
+    /// when there is an element for it. Nodes of one ID each get the whole of their element, but no
+    /// more than 16 of them. What fails in one spoils no more than that one: the result is 0, and
+    /// `status::kNullPointer` for a null argument.
     Status PersistStoryboards(CDSProjectData* project, _xmlNode* productions, bool save);
 
     /// Writes or reads one storyboard as the child `name` of `productions`. Gives 0, and does nothing

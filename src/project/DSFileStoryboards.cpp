@@ -56,29 +56,22 @@ void ReadFrom(ProductionElement& source, CQZBaseSBD& storyboard)
     (void)storyboard.LoadProductionFromXML(element); // a bad one spoils no more than itself
 }
 
+/// Calls `act` for the titles and then for the menus whose storyboards stand in the file.
 template <class Act>
-void ForEachTitle(CDSProjectData& project, Act act)
+void ForEachOwner(CDSProjectData& project, Act act)
 {
-    long count = 0;
-    (void)project.get_TitleCount(&count);
-    for (long index = 1; index <= count; ++index) {
+    long titles = 0;
+    long menus = 0;
+    (void)project.get_TitleCount(&titles);
+    (void)project.get_MenuCount(&menus);
+    for (long index = 1; index <= titles; ++index) {
         CDSTitle* title = nullptr;
-        (void)project.GetTitle(index, &title);
-        if (title)
+        if (!Failed(project.GetTitle(index, &title)) && title)
             act(*title);
     }
-}
-
-/// Calls `act` for the menus whose storyboards stand in the file.
-template <class Act>
-void ForEachOrdinaryMenu(CDSProjectData& project, Act act)
-{
-    long count = 0;
-    (void)project.get_MenuCount(&count);
-    for (long index = 1; index <= count; ++index) {
+    for (long index = 1; index <= menus; ++index) {
         CDSMenu* menu = nullptr;
-        (void)project.GetMenu(index, &menu);
-        if (menu && !menu->IsNative())
+        if (!Failed(project.GetMenu(index, &menu)) && menu && !menu->IsNative())
             act(*menu);
     }
 }
@@ -98,28 +91,24 @@ Status CDSFileService::PersistStoryboards(CDSProjectData* project, _xmlNode* pro
 
 void CDSFileService::WriteStoryboards(CDSProjectData& project, _xmlNode* productions)
 {
-    const auto write = [&](auto& node) {
+    ForEachOwner(project, [&](auto& node) {
         (void)PersistProductionXML(productions, GetProductionObj(&node),
                                    GetProductionNodeName(static_cast<CProjectNode*>(&node)), true);
-    };
-    ForEachTitle(project, write);
-    ForEachOrdinaryMenu(project, write);
+    });
 }
 
 void CDSFileService::ReadStoryboards(CDSProjectData& project, _xmlNode* productions)
 {
     ProductionIndex index = IndexOf(productions);
     std::vector<std::pair<ProductionElement*, CQZBaseSBD*>> readings;
-    const auto find = [&](auto& node) {
+    ForEachOwner(project, [&](auto& node) {
         const auto found = index.find(GetProductionNodeName(static_cast<CProjectNode*>(&node)));
         if (found == index.end() || found->second.readers == kMostSharers)
             return;
         (void)node.CreateProduction(); // a menu has one, and so may a title
         ++found->second.readers;
         readings.emplace_back(&found->second, GetProductionObj(&node));
-    };
-    ForEachTitle(project, find);
-    ForEachOrdinaryMenu(project, find);
+    });
     for (const auto& [source, storyboard] : readings)
         ReadFrom(*source, *storyboard);
 }

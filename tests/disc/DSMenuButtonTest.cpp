@@ -69,9 +69,8 @@ TEST(Button, ReachesItsLinksAndItsActiveRegion)
     for (const Status status :
          { button.put_ButtonLinks(nullptr), button.get_ButtonLinks(nullptr),
            button.put_ActiveRegion(nullptr, true), button.get_ActiveRegion(nullptr, &valid),
-           button.get_ActiveRegion(&region, nullptr), button.get_Label(nullptr),
-           button.get_Tag(nullptr), button.get_ZOrder(nullptr), button.get_Rotation(nullptr),
-           button.GetPosition(nullptr, nullptr), button.GetExtent(nullptr) })
+           button.get_ActiveRegion(&region, nullptr), button.get_Tag(nullptr),
+           button.get_Rotation(nullptr), button.GetPosition(nullptr, nullptr) })
         EXPECT_EQ(status, status::kNullPointer);
     EXPECT_EQ(button.GetBoundingBox(nullptr), status::kNoBoundingBox);
     EXPECT_EQ(button.GetAnchorElement(nullptr), status::kOk);

@@ -61,28 +61,36 @@ TEST(Overlay, HasItsSourceBelowTheContentFolder)
     }
 }
 
-TEST(Overlay, KeepsItsValuesAndRefusesNegativePoints)
+TEST(Overlay, StartsWithAWholeSourceOfUnknownMask)
 {
     CDSMenuOverlay overlay;
-    double a = 0, b = 0;
+    double a = 0, b = 0, crop[4] = {};
     EXPECT_EQ(overlay.GetMaskSize(&a, &b), status::kOk);
     EXPECT_EQ(a + b, -2.0);
-    EXPECT_EQ(overlay.put_InPoint(0.0), status::kOk);
-    EXPECT_EQ(overlay.put_InPoint(-0.5), status::kNegativeInPoint);
-    EXPECT_EQ(overlay.put_OutPoint(-0.5), status::kNegativeOutPoint);
-    EXPECT_EQ(overlay.put_OutPoint(2), status::kOk);
-    EXPECT_EQ(overlay.put_InPoint(3), status::kOk); // not compared
-    EXPECT_EQ(overlay.get_InPoint(&a), status::kOk);
-    EXPECT_EQ(a, 3);
+    EXPECT_EQ(overlay.GetSourceScale(&a, &b), status::kOk);
+    EXPECT_EQ(a + b, 2.0);
+    EXPECT_EQ(overlay.get_CropXYWH(&crop[0], &crop[1], &crop[2], &crop[3]), status::kOk);
+    EXPECT_EQ(crop[0] + crop[1] + crop[2] + crop[3], 2.0);
+    EXPECT_EQ(overlay.get_CropXYWH(&crop[0], nullptr, &crop[2], &crop[3]), status::kNullPointer);
 
     SourceTypes type = SourceTypes::None;
     long id = 0;
     EXPECT_EQ(overlay.SetSourceType(SourceTypes::Title, 4), status::kOk);
-    EXPECT_EQ(overlay.GetSourceType(&type, &id), status::kOk);
-    EXPECT_EQ(id, 4);
+    EXPECT_EQ(overlay.GetSourceType(&type, nullptr), status::kOk); // the type alone
+    EXPECT_EQ(type, SourceTypes::Title);
     EXPECT_EQ(overlay.GetSourceType(nullptr, &id), status::kNullPointer);
-    double crop[4] = {};
-    EXPECT_EQ(overlay.get_CropXYWH(&crop[0], nullptr, &crop[2], &crop[3]), status::kNullPointer);
+}
+
+TEST(Overlay, RefusesNegativePointsAndComparesNone)
+{
+    CDSMenuOverlay overlay;
+    double point = 0;
+    EXPECT_EQ(overlay.put_InPoint(-0.5), status::kNegativeInPoint);
+    EXPECT_EQ(overlay.put_OutPoint(-0.5), status::kNegativeOutPoint);
+    EXPECT_EQ(overlay.put_OutPoint(0.0), status::kOk);
+    EXPECT_EQ(overlay.put_InPoint(3), status::kOk);
+    EXPECT_EQ(overlay.get_InPoint(&point), status::kOk);
+    EXPECT_EQ(point, 3);
 
     FloatPoint corners[4];
     EXPECT_EQ(overlay.SetSize(6, 2), status::kOk);

@@ -5,6 +5,7 @@
 #include "richtext/TextAttributes.h"
 #include "support/MenuFixture.h"
 #include "transform/VCPTransformImpl.h"
+#include "xml/KeptXml.h"
 #include "xml/XmlFile.h"
 
 #include <filesystem>
@@ -83,10 +84,13 @@ TEST(Text, WithoutXmlAnswersNothingAndTakesNothing)
 TEST(Text, ShowsEachChangeAndKeepsItOverASave)
 {
     CDSMenuText text;
-    EXPECT_EQ(ReadNode(text, "<Text ID='3' handle='5' highlight='2' rotateAngle='4'>" +
-                                 Effect("<p><font face='A' fontHeight='20'>one </font>two</p>") +
-                                 "</Text>"),
-              status::kOk);
+    {
+        const XmlText xml{ "<Text ID='3' handle='5' highlight='2' rotateAngle='4'>" +
+                           Effect("<p><font face='A' fontHeight='20'>one </font>two</p>") +
+                           "</Text>" };
+        const XmlGift gift(xml.doc()); // as when a file is loaded
+        EXPECT_EQ(text.Read(AsNode(xml.root())), status::kOk);
+    }
     EXPECT_EQ(StringOf(text), "one two");
     EXPECT_EQ(text.setString("new words"), status::kOk);
     EXPECT_EQ(text.setFontName("B"), status::kOk);

@@ -74,17 +74,13 @@ TEST(TemplatePruning, HappensWithASaveAndLeavesPointersAlive)
 {
     const ScratchFolder folder;
     CDSProjectData project;
-    CProjectNode& list = *project.GetChild(1);
-    for (const unsigned long tag : { 1, 4 }) {
-        auto menu = std::make_unique<CDSMenu>();
-        (void)menu->put_Tag(tag);
-        list.AdoptChild(std::move(menu), true);
-    }
-    CDSTitle title;
-    (void)project.AddTitle(0, &title);
-    CProjectNode* const pruned = list.GetChild(1);
+    const XmlText xml{ "<Project><Titles><Title/></Titles><Menus><Menu tag='1'/>"
+                       "<Menu ID='7' tag='4'/></Menus></Project>" };
+    EXPECT_EQ(project.LoadXML(vantrel::AsNode(xml.root())), status::kOk);
+    CProjectNode& menus = *project.GetChild(1);
+    CProjectNode* const pruned = menus.GetChild(1);
     EXPECT_EQ(CDSFileService().SaveProject(folder / "a.xml", &project), status::kOk);
-    EXPECT_EQ(list.GetNumChildren(), 1);
+    EXPECT_EQ(menus.GetNumChildren(), 1);
     EXPECT_EQ(pruned->GetType(), eNodeMenu);
     EXPECT_EQ(CDSFileService().RemoveUnusedTemplates(nullptr), status::kNullPointer);
 }
