@@ -1,6 +1,7 @@
 #include "core/XmlText.h"
 
 #include <cstdint>
+#include <string_view>
 
 namespace vantrel {
 
@@ -46,11 +47,6 @@ std::size_t FitPrefix(std::string_view text)
 }
 
 } // namespace
-
-bool IsXmlText(std::string_view text)
-{
-    return FitPrefix(text) == text.size();
-}
 
 const char* XmlText(const std::string& text, std::string& store)
 {
