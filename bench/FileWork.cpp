@@ -15,6 +15,7 @@
 #include <memory>
 
 using std::string;
+using namespace vantrel;
 
 namespace bench {
 

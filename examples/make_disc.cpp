@@ -6,6 +6,8 @@
 #include <cstring>
 #include <string>
 
+using namespace vantrel;
+
 namespace {
 
 // Layer types are the application's; this one has its captions on type 1.

@@ -6,7 +6,7 @@ int main(int argc, char** argv)
 {
     CDSProjectData project;
     CDSFileService service;
-    if (argc != 3 || Failed(service.LoadProject(argv[1], &project)))
+    if (argc != 3 || vantrel::Failed(service.LoadProject(argv[1], &project)))
         return 1;
 
     std::string label;
@@ -20,5 +20,5 @@ int main(int argc, char** argv)
     }
 
     project.put_Label(label + ", second edition");
-    return Failed(service.SaveProjectAtomic(argv[2], &project)) ? 1 : 0;
+    return vantrel::Failed(service.SaveProjectAtomic(argv[2], &project)) ? 1 : 0;
 }

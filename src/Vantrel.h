@@ -4,6 +4,7 @@
 /// Everything that the library offers.
 
 #include "core/Export.h"
+#include "core/Matrix.h"
 #include "core/PathUtils.h"
 #include "core/Property.h"
 #include "core/Status.h"

@@ -1,6 +1,7 @@
 #include "Sections.h"
 
 using std::string;
+using namespace vantrel;
 
 namespace tool {
 

@@ -13,6 +13,7 @@
 #include <unistd.h>
 
 using std::string;
+using namespace vantrel;
 
 namespace tool {
 

@@ -18,10 +18,10 @@ Status Give(T* out, const V& value)
 
 /// The body of a plain `put_`: stores `value` unchecked.
 template <class T>
-Status Take(T& field, T value)
+vantrel::Status Take(T& field, T value)
 {
     field = std::move(value);
-    return status::kOk;
+    return vantrel::status::kOk;
 }
 
 } // namespace vantrel

@@ -2,6 +2,11 @@
 
 #include <cstdint>
 
+// Headers of a window system are known to define such words as macros, which no namespace keeps out.
+#if defined(Status) || defined(None) || defined(Bool) || defined(Success)
+#error "Include Vantrel's headers before those that define Status, None, Bool or Success as macros"
+#endif
+
 namespace vantrel {
 
 /// The 32-bit result of an operation: negative is failure, 0 success, 1 success with nothing done
@@ -49,9 +54,5 @@ constexpr bool Failed(Status result)
 }
 
 } // namespace vantrel
-
-using vantrel::Failed;
-using vantrel::Status;
-namespace status = vantrel::status;
 
 static_assert(sizeof(long) == 8, "the project model needs 64-bit long");

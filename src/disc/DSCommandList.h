@@ -46,20 +46,22 @@ public:
     CDiscCommandNode();
     ~CDiscCommandNode() override;
 
-    Status GetCommandParams(DiscCommandParams& out) const;
+    vantrel::Status GetCommandParams(DiscCommandParams& out) const;
     /// The code isn't checked.
-    Status SetCommandParams(const DiscCommandParams& in);
+    vantrel::Status SetCommandParams(const DiscCommandParams& in);
 
     std::string GetObjectTagName() override;
 
     /// Reads the attributes, and keeps copies of the sub-elements "file" and "effect". Gives 0 also
     /// for an element without attributes.
-    Status ReadXML(IXMLDOMNode* node) override;
+    vantrel::Status ReadXML(IXMLDOMNode* node) override;
     /// Writes the attributes and the kept sub-elements.
-    Status WriteXML(IXMLDOMNode* node, long native) override;
+    vantrel::Status WriteXML(IXMLDOMNode* node, long native) override;
 
-    Status FillAttributeMap(std::map<std::string, std::string>& attributes, bool native) override;
-    Status ParseAttributeMap(const std::map<std::string, std::string>& attributes) override;
+    vantrel::Status FillAttributeMap(std::map<std::string, std::string>& attributes,
+                                     bool native) override;
+    vantrel::Status ParseAttributeMap(
+        const std::map<std::string, std::string>& attributes) override;
 
 private:
     static vantrel::AttributeTable<CDiscCommandNode> Attributes();
@@ -76,6 +78,8 @@ public:
     ~CDSCommandList() override;
 
     /// The element has no attributes.
-    Status FillAttributeMap(std::map<std::string, std::string>& attributes, bool native) override;
-    Status ParseAttributeMap(const std::map<std::string, std::string>& attributes) override;
+    vantrel::Status FillAttributeMap(std::map<std::string, std::string>& attributes,
+                                     bool native) override;
+    vantrel::Status ParseAttributeMap(
+        const std::map<std::string, std::string>& attributes) override;
 };

@@ -18,22 +18,28 @@ public:
     CDSDataFile();
     ~CDSDataFile() override;
 
-    Status get_ID(long* out) const { return vantrel::Give(out, GetID()); }
+    vantrel::Status get_ID(long* out) const { return vantrel::Give(out, GetID()); }
 
     /// Where the file is found.
-    Status get_SourcePath(std::string* out) const { return vantrel::Give(out, m_sourcePath); }
-    Status put_SourcePath(std::string value)
+    vantrel::Status get_SourcePath(std::string* out) const
+    {
+        return vantrel::Give(out, m_sourcePath);
+    }
+    vantrel::Status put_SourcePath(std::string value)
     {
         return vantrel::Take(m_sourcePath, std::move(value));
     }
 
     /// Where it goes on the disc.
-    Status get_DestPath(std::string* out) const { return vantrel::Give(out, m_destPath); }
-    Status put_DestPath(std::string value) { return vantrel::Take(m_destPath, std::move(value)); }
+    vantrel::Status get_DestPath(std::string* out) const { return vantrel::Give(out, m_destPath); }
+    vantrel::Status put_DestPath(std::string value)
+    {
+        return vantrel::Take(m_destPath, std::move(value));
+    }
 
     /// The kind of file; the numbers are the application's.
-    Status get_Tag(unsigned long* out) const { return vantrel::Give(out, m_tag); }
-    Status put_Tag(unsigned long value) { return vantrel::Take(m_tag, value); }
+    vantrel::Status get_Tag(unsigned long* out) const { return vantrel::Give(out, m_tag); }
+    vantrel::Status put_Tag(unsigned long value) { return vantrel::Take(m_tag, value); }
 
     /// Takes over all that `other` is but its ID and its place in a tree.
     void CopyValues(const CDSDataFile& other);
@@ -42,10 +48,12 @@ public:
     bool Matches(const std::string* source, const std::string* dest, unsigned long tag) const;
 
     /// Counts one more user of the file. The count is not in the file.
-    Status IncrementUseCount();
+    vantrel::Status IncrementUseCount();
 
-    Status FillAttributeMap(std::map<std::string, std::string>& attributes, bool native) override;
-    Status ParseAttributeMap(const std::map<std::string, std::string>& attributes) override;
+    vantrel::Status FillAttributeMap(std::map<std::string, std::string>& attributes,
+                                     bool native) override;
+    vantrel::Status ParseAttributeMap(
+        const std::map<std::string, std::string>& attributes) override;
 
 private:
     static vantrel::AttributeTable<CDSDataFile> Attributes();

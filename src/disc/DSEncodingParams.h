@@ -23,42 +23,44 @@ public:
     /// three levels up, else this one.
     const CDSEncodingParams& getParams() const;
 
-    virtual Status get_VideoResolution(VideoResolution* out);
-    virtual Status put_VideoResolution(VideoResolution value);
-    virtual Status get_AspectRatio(AspectRatio* out);
-    virtual Status put_AspectRatio(AspectRatio value);
-    virtual Status get_VideoFormat(VideoFormat* out);
-    virtual Status put_VideoFormat(VideoFormat value);
-    virtual Status get_VideoBitrate(long* out);
-    virtual Status put_VideoBitrate(long value);
-    virtual Status get_AudioFormat(AudioFormat* out);
-    virtual Status put_AudioFormat(AudioFormat value);
-    virtual Status get_AudioBitrate(long* out);
-    virtual Status put_AudioBitrate(long value);
-    virtual Status get_WideDisplayMode(WideDisplayMode* out);
-    virtual Status put_WideDisplayMode(WideDisplayMode value);
-    virtual Status get_VBREncoding(bool* out);
-    virtual Status put_VBREncoding(bool value);
-    virtual Status get_TwoPassEncoding(bool* out);
-    virtual Status put_TwoPassEncoding(bool value);
+    virtual vantrel::Status get_VideoResolution(VideoResolution* out);
+    virtual vantrel::Status put_VideoResolution(VideoResolution value);
+    virtual vantrel::Status get_AspectRatio(AspectRatio* out);
+    virtual vantrel::Status put_AspectRatio(AspectRatio value);
+    virtual vantrel::Status get_VideoFormat(VideoFormat* out);
+    virtual vantrel::Status put_VideoFormat(VideoFormat value);
+    virtual vantrel::Status get_VideoBitrate(long* out);
+    virtual vantrel::Status put_VideoBitrate(long value);
+    virtual vantrel::Status get_AudioFormat(AudioFormat* out);
+    virtual vantrel::Status put_AudioFormat(AudioFormat value);
+    virtual vantrel::Status get_AudioBitrate(long* out);
+    virtual vantrel::Status put_AudioBitrate(long value);
+    virtual vantrel::Status get_WideDisplayMode(WideDisplayMode* out);
+    virtual vantrel::Status put_WideDisplayMode(WideDisplayMode value);
+    virtual vantrel::Status get_VBREncoding(bool* out);
+    virtual vantrel::Status put_VBREncoding(bool value);
+    virtual vantrel::Status get_TwoPassEncoding(bool* out);
+    virtual vantrel::Status put_TwoPassEncoding(bool value);
     /// This node's own flag.
-    virtual Status get_SyncToProject(bool* out);
+    virtual vantrel::Status get_SyncToProject(bool* out);
     /// Switching it off keeps the values that the set showed until then, but for the aspect ratio,
     /// which becomes its own again. Gives `status::kNothingToFollow` on the project's set and on one
     /// outside a project.
-    virtual Status put_SyncToProject(bool value);
-    virtual Status get_SubpictureFormat(SubpictureFormat* out);
-    virtual Status put_SubpictureFormat(SubpictureFormat value);
-    virtual Status get_AudioChannels(long* out);
-    virtual Status put_AudioChannels(long value);
+    virtual vantrel::Status put_SyncToProject(bool value);
+    virtual vantrel::Status get_SubpictureFormat(SubpictureFormat* out);
+    virtual vantrel::Status put_SubpictureFormat(SubpictureFormat value);
+    virtual vantrel::Status get_AudioChannels(long* out);
+    virtual vantrel::Status put_AudioChannels(long value);
 
-    Status FillAttributeMap(std::map<std::string, std::string>& attributes, bool native) override;
-    Status ParseAttributeMap(const std::map<std::string, std::string>& attributes) override;
+    vantrel::Status FillAttributeMap(std::map<std::string, std::string>& attributes,
+                                     bool native) override;
+    vantrel::Status ParseAttributeMap(
+        const std::map<std::string, std::string>& attributes) override;
 
 private:
     static vantrel::AttributeTable<CDSEncodingParams> Attributes();
     template <class T>
-    Status Put(T CDSEncodingParams::*field, T value);
+    vantrel::Status Put(T CDSEncodingParams::*field, T value);
 
     VideoResolution m_videoResolution = VideoResolution::Full_D1;
     AspectRatio m_aspectRatio = AspectRatio::_4x3;

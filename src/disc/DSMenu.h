@@ -39,98 +39,109 @@ public:
     ~CDSMenu() override;
 
     /// Makes what the menu doesn't have yet of children and storyboard.
-    Status FinalConstruct();
+    vantrel::Status FinalConstruct();
     /// Releases the storyboard; the destructor does so too.
-    Status FinalRelease();
+    vantrel::Status FinalRelease();
 
     /// @name Storyboard
     /// The menu owns it.
     /// @{
     /// Makes an empty storyboard. 1 when the menu has one.
-    Status CreateProduction();
+    vantrel::Status CreateProduction();
     /// 1 when the menu has none.
-    Status ReleaseProduction();
+    vantrel::Status ReleaseProduction();
     /// 1, with null in `*out`, when the menu has none.
-    Status GetProduction(CQZBaseSBD** out);
+    vantrel::Status GetProduction(CQZBaseSBD** out);
 
     /// Loads the storyboard from the template `file`, a path below the content folder of the theme
     /// that the menu was read from. A template that can't be read leaves the storyboard as it was.
     /// Gives 0.
-    Status LoadBkngProdFromPVTX(std::string file);
+    vantrel::Status LoadBkngProdFromPVTX(std::string file);
     /// @}
 
     /// @name Properties
     /// @{
-    Status get_ID(long* out) const { return vantrel::Give(out, GetID()); }
+    vantrel::Status get_ID(long* out) const { return vantrel::Give(out, GetID()); }
 
     /// Bits of `MenuTypes`.
-    Status get_Tag(unsigned long* out) const { return vantrel::Give(out, m_tag); }
-    Status put_Tag(unsigned long value) { return vantrel::Take(m_tag, value); }
+    vantrel::Status get_Tag(unsigned long* out) const { return vantrel::Give(out, m_tag); }
+    vantrel::Status put_Tag(unsigned long value) { return vantrel::Take(m_tag, value); }
 
     /// Bits named by `FormatMenuFlag`.
-    Status get_Flags(unsigned long* out) const { return vantrel::Give(out, m_flags); }
-    Status put_Flags(unsigned long value) { return vantrel::Take(m_flags, value); }
+    vantrel::Status get_Flags(unsigned long* out) const { return vantrel::Give(out, m_flags); }
+    vantrel::Status put_Flags(unsigned long value) { return vantrel::Take(m_flags, value); }
 
-    Status get_Label(std::string* out) const { return vantrel::Give(out, m_label); }
-    Status put_Label(std::string value) { return vantrel::Take(m_label, std::move(value)); }
+    vantrel::Status get_Label(std::string* out) const { return vantrel::Give(out, m_label); }
+    vantrel::Status put_Label(std::string value)
+    {
+        return vantrel::Take(m_label, std::move(value));
+    }
 
     /// The ID of the template menu that this one was made from; 0 for none.
-    Status get_TemplateID(long* out) const { return vantrel::Give(out, m_templateID); }
-    Status put_TemplateID(long value) { return vantrel::Take(m_templateID, value); }
+    vantrel::Status get_TemplateID(long* out) const { return vantrel::Give(out, m_templateID); }
+    vantrel::Status put_TemplateID(long value) { return vantrel::Take(m_templateID, value); }
 
     /// A packed value of 0 reads as the default layout.
-    Status get_ButtonLayout(CDSLayout* out) const;
-    Status put_ButtonLayout(unsigned long packed) { return vantrel::Take(m_btnLayout, packed); }
+    vantrel::Status get_ButtonLayout(CDSLayout* out) const;
+    vantrel::Status put_ButtonLayout(unsigned long packed)
+    {
+        return vantrel::Take(m_btnLayout, packed);
+    }
 
     /// The rectangle of child 5; without that child `status::kNullPointer`.
-    Status get_LayoutRect(FloatRect* out);
-    Status put_LayoutRect(FloatRect* in);
+    vantrel::Status get_LayoutRect(FloatRect* out);
+    vantrel::Status put_LayoutRect(FloatRect* in);
 
     /// The ID of a button in this menu's list; 0 for none. Any other gives `status::kNotAButton`,
     /// and a menu without its list `status::kNullPointer`; nothing is changed then.
-    Status get_DefaultButton(long* out) const { return vantrel::Give(out, m_defaultButton); }
-    Status put_DefaultButton(long id);
+    vantrel::Status get_DefaultButton(long* out) const
+    {
+        return vantrel::Give(out, m_defaultButton);
+    }
+    vantrel::Status put_DefaultButton(long id);
 
     /// Only a file makes a menu native.
-    Status get_IsNative(bool* out) const { return vantrel::Give(out, m_native); }
+    vantrel::Status get_IsNative(bool* out) const { return vantrel::Give(out, m_native); }
     bool IsNative() const { return m_native; }
 
     /// Putting it also clears the background's path.
-    Status get_BkgndID(long* out) const { return vantrel::Give(out, m_bkgndID); }
-    Status put_BkgndID(long value);
+    vantrel::Status get_BkgndID(long* out) const { return vantrel::Give(out, m_bkgndID); }
+    vantrel::Status put_BkgndID(long value);
 
     /// Only a file sets it, for a native menu.
-    Status get_Audio(std::string* out) const { return vantrel::Give(out, m_audio); }
+    vantrel::Status get_Audio(std::string* out) const { return vantrel::Give(out, m_audio); }
 
     /// The background's path; where that is a template, the background video of the storyboard,
     /// which leaves `out` alone if it has none.
-    Status get_Background(std::string* out) const;
+    vantrel::Status get_Background(std::string* out) const;
     /// Sets the path of a native menu, the background video of an ordinary one's storyboard. An empty
     /// path gives `status::kNullPointer` and changes nothing.
-    Status put_Background(std::string value);
+    vantrel::Status put_Background(std::string value);
 
     /// The stored duration of a native menu and of one with a background ID above 0; of any other
     /// that of the storyboard, if it has one.
-    Status get_Duration(double* out) const;
-    Status put_Duration(double value) { return vantrel::Take(m_duration, value); }
+    vantrel::Status get_Duration(double* out) const;
+    vantrel::Status put_Duration(double value) { return vantrel::Take(m_duration, value); }
 
     /// A count that a file brought; it isn't written.
-    Status GetContentCount(long* out) const { return vantrel::Give(out, m_contentCount); }
+    vantrel::Status GetContentCount(long* out) const { return vantrel::Give(out, m_contentCount); }
 
     /// Changes nothing: a palette is set on child 0.
-    Status SetPalette(long palette);
+    vantrel::Status SetPalette(long palette);
     /// @}
 
     /// @name Buttons
     /// Numbered from 1 in the order of the list, where overlays and texts don't count.
     /// @{
-    Status get_ButtonCount(long* out);
+    vantrel::Status get_ButtonCount(long* out);
     /// 1, with `out` untouched, for a number outside.
-    Status GetButton(long index, CDSMenuButton** out);
+    vantrel::Status GetButton(long index, CDSMenuButton** out);
     /// @}
 
-    Status FillAttributeMap(std::map<std::string, std::string>& attributes, bool native) override;
-    Status ParseAttributeMap(const std::map<std::string, std::string>& attributes) override;
+    vantrel::Status FillAttributeMap(std::map<std::string, std::string>& attributes,
+                                     bool native) override;
+    vantrel::Status ParseAttributeMap(
+        const std::map<std::string, std::string>& attributes) override;
 
 private:
     static vantrel::AttributeTable<CDSMenu> Attributes();

@@ -24,13 +24,15 @@ public:
     ~CButtonLinksNode() override;
 
     /// Null gives `status::kNullPointer`.
-    Status GetButtonLinks(ButtonLinks* out) const { return vantrel::Give(out, m_links); }
-    Status SetButtonLinks(ButtonLinks links) { return vantrel::Take(m_links, links); }
+    vantrel::Status GetButtonLinks(ButtonLinks* out) const { return vantrel::Give(out, m_links); }
+    vantrel::Status SetButtonLinks(ButtonLinks links) { return vantrel::Take(m_links, links); }
     /// The links themselves, which live as long as the node.
     ButtonLinks* Links() { return &m_links; }
 
-    Status FillAttributeMap(std::map<std::string, std::string>& attributes, bool native) override;
-    Status ParseAttributeMap(const std::map<std::string, std::string>& attributes) override;
+    vantrel::Status FillAttributeMap(std::map<std::string, std::string>& attributes,
+                                     bool native) override;
+    vantrel::Status ParseAttributeMap(
+        const std::map<std::string, std::string>& attributes) override;
 
 private:
     static vantrel::AttributeTable<CButtonLinksNode> Attributes();
@@ -46,15 +48,17 @@ public:
     ~CActiveRgnNode() override;
 
     /// Whether the rectangle counts.
-    Status GetValid(bool* out) const { return vantrel::Give(out, m_valid); }
-    Status SetValid(bool value) { return vantrel::Take(m_valid, value); }
+    vantrel::Status GetValid(bool* out) const { return vantrel::Give(out, m_valid); }
+    vantrel::Status SetValid(bool value) { return vantrel::Take(m_valid, value); }
 
     /// Null gives `status::kNullPointer`.
-    Status GetActiveRgn(FloatRect* out) const { return vantrel::Give(out, m_region); }
-    Status SetActiveRgn(FloatRect rect) { return vantrel::Take(m_region, rect); }
+    vantrel::Status GetActiveRgn(FloatRect* out) const { return vantrel::Give(out, m_region); }
+    vantrel::Status SetActiveRgn(FloatRect rect) { return vantrel::Take(m_region, rect); }
 
-    Status FillAttributeMap(std::map<std::string, std::string>& attributes, bool native) override;
-    Status ParseAttributeMap(const std::map<std::string, std::string>& attributes) override;
+    vantrel::Status FillAttributeMap(std::map<std::string, std::string>& attributes,
+                                     bool native) override;
+    vantrel::Status ParseAttributeMap(
+        const std::map<std::string, std::string>& attributes) override;
 
 private:
     static vantrel::AttributeTable<CActiveRgnNode> Attributes();
@@ -79,18 +83,18 @@ public:
     ~CDSMenuButton() override;
 
     /// Makes the children, if there are none yet.
-    Status FinalConstruct();
+    vantrel::Status FinalConstruct();
 
     /// The position of the element part, which an anchor may lend.
-    Status GetPosition(float* x, float* y) override { return getPosition(x, y); }
-    Status SetPosition(float x, float y) override { return setPosition(x, y); }
+    vantrel::Status GetPosition(float* x, float* y) override { return getPosition(x, y); }
+    vantrel::Status SetPosition(float x, float y) override { return setPosition(x, y); }
 
     /// A button has no corners of its own: always `status::kNoBoundingBox`.
-    Status GetBoundingBox(FloatPoint* out) override;
+    vantrel::Status GetBoundingBox(FloatPoint* out) override;
 
     /// The union of the extents of the overlays and texts in the button that are highlighted with it,
     /// and of what else stands there. 1, and the zero rectangle, when there is none.
-    virtual Status GetHighlightRegion(FloatRect* out);
+    virtual vantrel::Status GetHighlightRegion(FloatRect* out);
 
     /// True for a button of a native menu, and for one that stands in no menu.
     bool IsNative() const;
@@ -98,52 +102,63 @@ public:
     /// @name Properties
     /// @{
     /// Which of the menu's button schemes the button uses.
-    Status get_ButtonScheme(long* out) const { return vantrel::Give(out, m_scheme); }
-    Status put_ButtonScheme(long value) { return vantrel::Take(m_scheme, value); }
+    vantrel::Status get_ButtonScheme(long* out) const { return vantrel::Give(out, m_scheme); }
+    vantrel::Status put_ButtonScheme(long value) { return vantrel::Take(m_scheme, value); }
 
-    Status get_Label(std::string* out) const { return vantrel::Give(out, m_label); }
-    Status put_Label(std::string value) { return vantrel::Take(m_label, std::move(value)); }
+    vantrel::Status get_Label(std::string* out) const { return vantrel::Give(out, m_label); }
+    vantrel::Status put_Label(std::string value)
+    {
+        return vantrel::Take(m_label, std::move(value));
+    }
 
-    Status get_ButtonStyle(std::string* out) const { return vantrel::Give(out, m_buttonStyle); }
-    Status put_ButtonStyle(std::string value)
+    vantrel::Status get_ButtonStyle(std::string* out) const
+    {
+        return vantrel::Give(out, m_buttonStyle);
+    }
+    vantrel::Status put_ButtonStyle(std::string value)
     {
         return vantrel::Take(m_buttonStyle, std::move(value));
     }
 
-    Status get_ButtonTextCache(std::string* out) const
+    vantrel::Status get_ButtonTextCache(std::string* out) const
     {
         return vantrel::Give(out, m_buttonTextCache);
     }
-    Status put_ButtonTextCache(std::string value)
+    vantrel::Status put_ButtonTextCache(std::string value)
     {
         return vantrel::Take(m_buttonTextCache, std::move(value));
     }
 
     /// Kept for the application.
-    Status get_UserData(long* out) const { return vantrel::Give(out, m_userData); }
-    Status put_UserData(long value) { return vantrel::Take(m_userData, value); }
+    vantrel::Status get_UserData(long* out) const { return vantrel::Give(out, m_userData); }
+    vantrel::Status put_UserData(long value) { return vantrel::Take(m_userData, value); }
 
     /// The index of the title that the button links to, -1 for none. Only a file brings it, and it
     /// isn't written.
-    Status get_LinkTitleIndex(long* out) const { return vantrel::Give(out, m_linkTitleIndex); }
+    vantrel::Status get_LinkTitleIndex(long* out) const
+    {
+        return vantrel::Give(out, m_linkTitleIndex);
+    }
     /// @}
 
     /// @name Children
     /// A null pointer, or a missing child, gives `status::kNullPointer`.
     /// @{
-    Status get_ActiveRegion(FloatRect* region, bool* valid);
-    Status put_ActiveRegion(FloatRect* region, bool valid);
+    vantrel::Status get_ActiveRegion(FloatRect* region, bool* valid);
+    vantrel::Status put_ActiveRegion(FloatRect* region, bool valid);
 
     /// Hands out the links themselves, which live as long as the button.
-    Status get_ButtonLinks(ButtonLinks** out);
-    Status put_ButtonLinks(ButtonLinks* links);
+    vantrel::Status get_ButtonLinks(ButtonLinks** out);
+    vantrel::Status put_ButtonLinks(ButtonLinks* links);
 
     /// Gives 0 and nothing else: `getAnchorElement` hands out the anchor.
-    Status GetAnchorElement(CDSMenuElement* out);
+    vantrel::Status GetAnchorElement(CDSMenuElement* out);
     /// @}
 
-    Status FillAttributeMap(std::map<std::string, std::string>& attributes, bool native) override;
-    Status ParseAttributeMap(const std::map<std::string, std::string>& attributes) override;
+    vantrel::Status FillAttributeMap(std::map<std::string, std::string>& attributes,
+                                     bool native) override;
+    vantrel::Status ParseAttributeMap(
+        const std::map<std::string, std::string>& attributes) override;
 
 private:
     static vantrel::AttributeTable<CDSMenuButton> Attributes();

@@ -45,12 +45,14 @@ public:
     ~CPaletteNode() override;
 
     /// Copies all 16 entries out or in; null gives `status::kNullPointer`.
-    Status GetPalette(RGBEntry* out) const;
-    Status SetPalette(const RGBEntry* in);
+    vantrel::Status GetPalette(RGBEntry* out) const;
+    vantrel::Status SetPalette(const RGBEntry* in);
 
-    Status FillAttributeMap(std::map<std::string, std::string>& attributes, bool native) override;
+    vantrel::Status FillAttributeMap(std::map<std::string, std::string>& attributes,
+                                     bool native) override;
     /// Stops, with a message on standard output, at the first entry that is absent or empty.
-    Status ParseAttributeMap(const std::map<std::string, std::string>& attributes) override;
+    vantrel::Status ParseAttributeMap(
+        const std::map<std::string, std::string>& attributes) override;
 
 private:
     static vantrel::AttributeTable<CPaletteNode> Attributes();
@@ -71,15 +73,17 @@ public:
     /// Copies both assignments out, and only then derives the emphasis 2 values in the node from the
     /// pattern's: half its contrast, rounded up, and its colour. So a second call, and the next save,
     /// show the derived values. Null gives `status::kNullPointer`.
-    Status GetColourInfo(SPUColourInfo* selected, SPUColourInfo* activated);
+    vantrel::Status GetColourInfo(SPUColourInfo* selected, SPUColourInfo* activated);
 
     /// Stores both when every value is at most 15; else the first bad one, the selected assignment
     /// first, decides between `status::kBadColour` and `status::kBadContrast`, and nothing changes.
-    Status SetColourInfo(const SPUColourInfo& selected, const SPUColourInfo& activated);
+    vantrel::Status SetColourInfo(const SPUColourInfo& selected, const SPUColourInfo& activated);
 
     std::string GetObjectTagName() override;
-    Status FillAttributeMap(std::map<std::string, std::string>& attributes, bool native) override;
-    Status ParseAttributeMap(const std::map<std::string, std::string>& attributes) override;
+    vantrel::Status FillAttributeMap(std::map<std::string, std::string>& attributes,
+                                     bool native) override;
+    vantrel::Status ParseAttributeMap(
+        const std::map<std::string, std::string>& attributes) override;
 
 private:
     static vantrel::AttributeTable<CButtonSchemeNode> Attributes();
@@ -97,12 +101,14 @@ public:
     ~CSPUColourNode() override;
 
     /// Null gives `status::kNullPointer`.
-    Status GetColourInfo(SPUColourInfo* out) const;
+    vantrel::Status GetColourInfo(SPUColourInfo* out) const;
     /// Checks as a scheme does.
-    Status SetColourInfo(const SPUColourInfo& in);
+    vantrel::Status SetColourInfo(const SPUColourInfo& in);
 
-    Status FillAttributeMap(std::map<std::string, std::string>& attributes, bool native) override;
-    Status ParseAttributeMap(const std::map<std::string, std::string>& attributes) override;
+    vantrel::Status FillAttributeMap(std::map<std::string, std::string>& attributes,
+                                     bool native) override;
+    vantrel::Status ParseAttributeMap(
+        const std::map<std::string, std::string>& attributes) override;
 
 private:
     static vantrel::AttributeTable<CSPUColourNode> Attributes();
@@ -118,11 +124,13 @@ public:
     ~CLayoutRectNode() override;
 
     /// Null gives `status::kNullPointer`.
-    Status GetLayoutRect(FloatRect* out) const;
-    Status SetLayoutRect(const FloatRect* in);
+    vantrel::Status GetLayoutRect(FloatRect* out) const;
+    vantrel::Status SetLayoutRect(const FloatRect* in);
 
-    Status FillAttributeMap(std::map<std::string, std::string>& attributes, bool native) override;
-    Status ParseAttributeMap(const std::map<std::string, std::string>& attributes) override;
+    vantrel::Status FillAttributeMap(std::map<std::string, std::string>& attributes,
+                                     bool native) override;
+    vantrel::Status ParseAttributeMap(
+        const std::map<std::string, std::string>& attributes) override;
 
 private:
     static vantrel::AttributeTable<CLayoutRectNode> Attributes();

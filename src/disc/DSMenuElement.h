@@ -12,20 +12,20 @@ class VANTREL_API CDSMenuElement : public CProjectNode
 public:
     CDSMenuElement() : CProjectNode(eNodeNone) {}
 
-    virtual Status get_ID(long*) { return status::kOk; }
-    virtual Status get_Tag(unsigned long*) { return status::kOk; }
-    virtual Status put_Tag(unsigned long) { return status::kOk; }
-    virtual Status get_Flags(unsigned long*) { return status::kOk; }
-    virtual Status put_Flags(unsigned long) { return status::kOk; }
-    virtual Status get_Rotation(float*) { return status::kOk; }
-    virtual Status put_Rotation(float) { return status::kOk; }
-    virtual Status get_ZOrder(long*) { return status::kOk; }
-    virtual Status put_ZOrder(long) { return status::kOk; }
-    virtual Status GetPosition(float*, float*) { return status::kOk; }
-    virtual Status SetPosition(float, float) { return status::kOk; }
-    virtual Status get_TemplateID(long*) { return status::kOk; }
-    virtual Status put_TemplateID(long) { return status::kOk; }
-    virtual Status GetBoundingBox(FloatPoint*) { return status::kOk; }
-    virtual Status GetExtent(FloatRect*) { return status::kOk; }
-    virtual Status GetHighlightRegion(FloatRect*) { return status::kOk; }
+    virtual vantrel::Status get_ID(long*) { return vantrel::status::kOk; }
+    virtual vantrel::Status get_Tag(unsigned long*) { return vantrel::status::kOk; }
+    virtual vantrel::Status put_Tag(unsigned long) { return vantrel::status::kOk; }
+    virtual vantrel::Status get_Flags(unsigned long*) { return vantrel::status::kOk; }
+    virtual vantrel::Status put_Flags(unsigned long) { return vantrel::status::kOk; }
+    virtual vantrel::Status get_Rotation(float*) { return vantrel::status::kOk; }
+    virtual vantrel::Status put_Rotation(float) { return vantrel::status::kOk; }
+    virtual vantrel::Status get_ZOrder(long*) { return vantrel::status::kOk; }
+    virtual vantrel::Status put_ZOrder(long) { return vantrel::status::kOk; }
+    virtual vantrel::Status GetPosition(float*, float*) { return vantrel::status::kOk; }
+    virtual vantrel::Status SetPosition(float, float) { return vantrel::status::kOk; }
+    virtual vantrel::Status get_TemplateID(long*) { return vantrel::status::kOk; }
+    virtual vantrel::Status put_TemplateID(long) { return vantrel::status::kOk; }
+    virtual vantrel::Status GetBoundingBox(FloatPoint*) { return vantrel::status::kOk; }
+    virtual vantrel::Status GetExtent(FloatRect*) { return vantrel::status::kOk; }
+    virtual vantrel::Status GetHighlightRegion(FloatRect*) { return vantrel::status::kOk; }
 };

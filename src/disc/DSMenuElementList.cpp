@@ -2,6 +2,7 @@
 
 using std::map;
 using std::string;
+using namespace vantrel;
 
 CDSMenuElementList::CDSMenuElementList() : CProjectNode(eNodeElements)
 {}

@@ -16,76 +16,78 @@ public:
     CDSMenuOverlay();
     ~CDSMenuOverlay() override;
 
-    Status GetExtent(FloatRect* out) override;
+    vantrel::Status GetExtent(FloatRect* out) override;
 
     /// How the overlay is highlighted with its button.
-    virtual Status get_Highlight(OverlayHighlight* out);
-    virtual Status put_Highlight(OverlayHighlight value);
+    virtual vantrel::Status get_Highlight(OverlayHighlight* out);
+    virtual vantrel::Status put_Highlight(OverlayHighlight value);
 
-    virtual Status get_Label(std::string* out);
-    virtual Status put_Label(std::string value);
+    virtual vantrel::Status get_Label(std::string* out);
+    virtual vantrel::Status put_Label(std::string value);
 
     /// The kind of the picture's source, and which one it is; `sourceID` may be null.
-    virtual Status GetSourceType(SourceTypes* type, long* sourceID);
-    virtual Status SetSourceType(SourceTypes type, long sourceID);
+    virtual vantrel::Status GetSourceType(SourceTypes* type, long* sourceID);
+    virtual vantrel::Status SetSourceType(SourceTypes type, long sourceID);
 
-    virtual Status get_PrivateId(long* out);
-    virtual Status put_PrivateId(long value);
+    virtual vantrel::Status get_PrivateId(long* out);
+    virtual vantrel::Status put_PrivateId(long value);
 
-    virtual Status get_StillImage(bool* out);
-    virtual Status put_StillImage(bool value);
+    virtual vantrel::Status get_StillImage(bool* out);
+    virtual vantrel::Status put_StillImage(bool value);
 
-    virtual Status get_DynamicScalingFactor(double* out);
-    virtual Status put_DynamicScalingFactor(double value);
+    virtual vantrel::Status get_DynamicScalingFactor(double* out);
+    virtual vantrel::Status put_DynamicScalingFactor(double value);
 
     /// Whether source and mask are zoomed to fill. A file brings the first alone.
-    virtual Status get_ZoomSource(bool* out);
-    virtual Status put_ZoomSource(bool value);
-    virtual Status get_ZoomMask(bool* out);
-    virtual Status put_ZoomMask(bool value);
+    virtual vantrel::Status get_ZoomSource(bool* out);
+    virtual vantrel::Status put_ZoomSource(bool value);
+    virtual vantrel::Status get_ZoomMask(bool* out);
+    virtual vantrel::Status put_ZoomMask(bool value);
 
     /// -1.0 means not known. Not in the file.
-    virtual Status SetMaskSize(double width, double height);
-    virtual Status GetMaskSize(double* width, double* height);
+    virtual vantrel::Status SetMaskSize(double width, double height);
+    virtual vantrel::Status GetMaskSize(double* width, double* height);
 
     /// Not in the file.
-    virtual Status SetSourceScale(double x, double y);
-    virtual Status GetSourceScale(double* x, double* y);
+    virtual vantrel::Status SetSourceScale(double x, double y);
+    virtual vantrel::Status GetSourceScale(double* x, double* y);
 
-    virtual Status GetSize(float* width, float* height);
-    virtual Status SetSize(float width, float height);
+    virtual vantrel::Status GetSize(float* width, float* height);
+    virtual vantrel::Status SetSize(float width, float height);
 
     /// The source's path, with the content folder of the file that the overlay was read from in
     /// front; putting it takes that folder off again.
-    virtual Status get_Source(std::string* out);
-    virtual Status put_Source(std::string value);
+    virtual vantrel::Status get_Source(std::string* out);
+    virtual vantrel::Status put_Source(std::string value);
 
     /// The mask's path as it stands in the element.
-    virtual Status get_AlphaMask(std::string* out);
-    virtual Status put_AlphaMask(std::string value);
+    virtual vantrel::Status get_AlphaMask(std::string* out);
+    virtual vantrel::Status put_AlphaMask(std::string value);
 
     /// Seconds. A negative value gives `status::kNegativeInPoint` and `status::kNegativeOutPoint`.
-    virtual Status get_InPoint(double* out);
-    virtual Status put_InPoint(double value);
-    virtual Status get_OutPoint(double* out);
-    virtual Status put_OutPoint(double value);
+    virtual vantrel::Status get_InPoint(double* out);
+    virtual vantrel::Status put_InPoint(double value);
+    virtual vantrel::Status get_OutPoint(double* out);
+    virtual vantrel::Status put_OutPoint(double value);
 
     /// Not in the file.
-    virtual Status get_SourceRotation(long* out);
-    virtual Status put_SourceRotation(long value);
+    virtual vantrel::Status get_SourceRotation(long* out);
+    virtual vantrel::Status put_SourceRotation(long value);
 
     /// @name Rotation and crop of the source, which only a file brings
     /// @{
-    virtual Status get_RotateAngle(double* out);
+    virtual vantrel::Status get_RotateAngle(double* out);
     /// Origin and size as fractions of the source.
-    virtual Status get_CropXYWH(double* x, double* y, double* width, double* height);
-    virtual Status get_cropRotateMode(bool* out);
+    virtual vantrel::Status get_CropXYWH(double* x, double* y, double* width, double* height);
+    virtual vantrel::Status get_cropRotateMode(bool* out);
     /// @}
 
-    virtual Status RefreshSource();
+    virtual vantrel::Status RefreshSource();
 
-    Status FillAttributeMap(std::map<std::string, std::string>& attributes, bool native) override;
-    Status ParseAttributeMap(const std::map<std::string, std::string>& attributes) override;
+    vantrel::Status FillAttributeMap(std::map<std::string, std::string>& attributes,
+                                     bool native) override;
+    vantrel::Status ParseAttributeMap(
+        const std::map<std::string, std::string>& attributes) override;
 
 private:
     static vantrel::AttributeTable<CDSMenuOverlay> Attributes();

@@ -17,48 +17,56 @@ public:
     ~CDSMenuText() override;
 
     /// How the text is highlighted with its button.
-    virtual Status get_Highlight(TextHighlight* out) { return vantrel::Give(out, m_highlight); }
-    virtual Status put_Highlight(TextHighlight value) { return vantrel::Take(m_highlight, value); }
+    virtual vantrel::Status get_Highlight(TextHighlight* out)
+    {
+        return vantrel::Give(out, m_highlight);
+    }
+    virtual vantrel::Status put_Highlight(TextHighlight value)
+    {
+        return vantrel::Take(m_highlight, value);
+    }
 
     /// The point of the rectangle that stands at the position. Outside of 1 to 9:
     /// `status::kBadArgument`.
-    virtual Status get_Handle(TextHandles* out) { return getHandle(out); }
-    virtual Status put_Handle(TextHandles value) { return setHandle(value); }
+    virtual vantrel::Status get_Handle(TextHandles* out) { return getHandle(out); }
+    virtual vantrel::Status put_Handle(TextHandles value) { return setHandle(value); }
 
     /// Hangs a copy of the effect under `node`, 1 when there is none; and takes a copy of `node` as
     /// the effect. Null gives `status::kNullPointer`.
-    virtual Status GetEffectXML(IXMLDOMNode* node);
-    virtual Status SetEffectXML(IXMLDOMNode* node);
+    virtual vantrel::Status GetEffectXML(IXMLDOMNode* node);
+    virtual vantrel::Status SetEffectXML(IXMLDOMNode* node);
 
     /// @name Words and font, with references resolved
     /// 0 when a reference was resolved. 1 for any other text, which `out` receives as it stands, but
     /// only from a text that was read from a file; and without a text, when `out` stays.
     /// @{
-    Status getString(std::string* out);
-    Status get_Font(std::string* out);
-    Status get_HeightString(std::string* out);
+    vantrel::Status getString(std::string* out);
+    vantrel::Status get_Font(std::string* out);
+    vantrel::Status get_HeightString(std::string* out);
     /// @}
 
     /// The number at the head of the height, resolved; 0 without a text. 1, with `out` untouched, for
     /// a reference that doesn't resolve. Null gives `status::kNullPointer`.
-    Status get_Height(long* out);
+    vantrel::Status get_Height(long* out);
 
     /// 0xAABBGGRR. The status is always 1; without a colour `out` stays.
-    Status GetColor(unsigned long* out);
+    vantrel::Status GetColor(unsigned long* out);
 
     int NodeInserted() override;
 
     /// Reads the attributes and keeps a copy of the "effect". Gives `status::kNullPointer` for null,
     /// else 0.
-    Status ReadXML(IXMLDOMNode* node) override;
+    vantrel::Status ReadXML(IXMLDOMNode* node) override;
     /// Writes the attributes and the "effect". Gives 0.
-    Status WriteXML(IXMLDOMNode* node, long native) override;
-    Status FillAttributeMap(std::map<std::string, std::string>& attributes, bool native) override;
-    Status ParseAttributeMap(const std::map<std::string, std::string>& attributes) override;
+    vantrel::Status WriteXML(IXMLDOMNode* node, long native) override;
+    vantrel::Status FillAttributeMap(std::map<std::string, std::string>& attributes,
+                                     bool native) override;
+    vantrel::Status ParseAttributeMap(
+        const std::map<std::string, std::string>& attributes) override;
 
 private:
     static vantrel::AttributeTable<CDSMenuText> Attributes();
-    Status Resolve(Status (CMenuTextImpl::*get)(std::string*), std::string* out);
+    vantrel::Status Resolve(vantrel::Status (CMenuTextImpl::*get)(std::string*), std::string* out);
 
     TextHighlight m_highlight = TextHighlight::None;
 };

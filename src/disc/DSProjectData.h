@@ -34,112 +34,157 @@ public:
     ~CDSProjectData() override;
 
     /// Makes the fixed children. The constructor has done so already.
-    Status FinalConstruct();
+    vantrel::Status FinalConstruct();
     /// Nothing is to be let go.
-    Status FinalRelease();
+    vantrel::Status FinalRelease();
 
     /// @name Settings in the file
     /// @{
-    Status get_Label(std::string* out) const { return vantrel::Give(out, m_label); }
-    Status put_Label(std::string value) { return vantrel::Take(m_label, std::move(value)); }
+    vantrel::Status get_Label(std::string* out) const { return vantrel::Give(out, m_label); }
+    vantrel::Status put_Label(std::string value)
+    {
+        return vantrel::Take(m_label, std::move(value));
+    }
 
     /// The project file's name without folder and extension; every save sets it.
-    Status get_DisplayName(std::string* out) const { return vantrel::Give(out, m_displayName); }
-    Status put_DisplayName(std::string value)
+    vantrel::Status get_DisplayName(std::string* out) const
+    {
+        return vantrel::Give(out, m_displayName);
+    }
+    vantrel::Status put_DisplayName(std::string value)
     {
         return vantrel::Take(m_displayName, std::move(value));
     }
 
-    Status get_DiscFormat(DiscFormat* out) const { return vantrel::Give(out, m_discFormat); }
-    Status put_DiscFormat(DiscFormat value) { return vantrel::Take(m_discFormat, value); }
+    vantrel::Status get_DiscFormat(DiscFormat* out) const
+    {
+        return vantrel::Give(out, m_discFormat);
+    }
+    vantrel::Status put_DiscFormat(DiscFormat value) { return vantrel::Take(m_discFormat, value); }
 
-    Status get_TVStandard(TVStandard* out) const { return vantrel::Give(out, m_tvStandard); }
-    Status put_TVStandard(TVStandard value) { return vantrel::Take(m_tvStandard, value); }
+    vantrel::Status get_TVStandard(TVStandard* out) const
+    {
+        return vantrel::Give(out, m_tvStandard);
+    }
+    vantrel::Status put_TVStandard(TVStandard value) { return vantrel::Take(m_tvStandard, value); }
 
-    Status get_IsOnDisc(bool* out) const { return vantrel::Give(out, m_isOnDisc); }
-    Status put_IsOnDisc(bool value) { return vantrel::Take(m_isOnDisc, value); }
+    vantrel::Status get_IsOnDisc(bool* out) const { return vantrel::Give(out, m_isOnDisc); }
+    vantrel::Status put_IsOnDisc(bool value) { return vantrel::Take(m_isOnDisc, value); }
 
-    Status get_FitToDisc(bool* out) const { return vantrel::Give(out, m_fitToDisc); }
-    Status put_FitToDisc(bool value) { return vantrel::Take(m_fitToDisc, value); }
+    vantrel::Status get_FitToDisc(bool* out) const { return vantrel::Give(out, m_fitToDisc); }
+    vantrel::Status put_FitToDisc(bool value) { return vantrel::Take(m_fitToDisc, value); }
 
     /// Only answered for a project on disc; for any other it gives 1 and leaves `out` alone.
-    Status get_DoCompression(bool* out) const;
-    Status put_DoCompression(bool value) { return vantrel::Take(m_doCompression, value); }
+    vantrel::Status get_DoCompression(bool* out) const;
+    vantrel::Status put_DoCompression(bool value) { return vantrel::Take(m_doCompression, value); }
 
     /// Bits named by `FormatProjectOptions`.
-    Status get_Options(unsigned long* out) const { return vantrel::Give(out, m_options); }
-    Status put_Options(unsigned long value) { return vantrel::Take(m_options, value); }
+    vantrel::Status get_Options(unsigned long* out) const { return vantrel::Give(out, m_options); }
+    vantrel::Status put_Options(unsigned long value) { return vantrel::Take(m_options, value); }
 
     /// In KB.
-    Status get_OnDiscSize(unsigned long* out) const { return vantrel::Give(out, m_onDiscSize); }
-    Status put_OnDiscSize(unsigned long value) { return vantrel::Take(m_onDiscSize, value); }
+    vantrel::Status get_OnDiscSize(unsigned long* out) const
+    {
+        return vantrel::Give(out, m_onDiscSize);
+    }
+    vantrel::Status put_OnDiscSize(unsigned long value)
+    {
+        return vantrel::Take(m_onDiscSize, value);
+    }
 
-    Status get_RemainingCaptures(long* out) const
+    vantrel::Status get_RemainingCaptures(long* out) const
     {
         return vantrel::Give(out, m_remainingCaptures);
     }
-    Status put_RemainingCaptures(long value) { return vantrel::Take(m_remainingCaptures, value); }
+    vantrel::Status put_RemainingCaptures(long value)
+    {
+        return vantrel::Take(m_remainingCaptures, value);
+    }
 
-    Status get_ThemeSource(std::string* out) const { return vantrel::Give(out, m_themeSource); }
-    Status put_ThemeSource(std::string value)
+    vantrel::Status get_ThemeSource(std::string* out) const
+    {
+        return vantrel::Give(out, m_themeSource);
+    }
+    vantrel::Status put_ThemeSource(std::string value)
     {
         return vantrel::Take(m_themeSource, std::move(value));
     }
 
-    Status get_DiscSize(DiscSizeEnum* out) const { return vantrel::Give(out, m_discSize); }
-    Status put_DiscSize(DiscSizeEnum value) { return vantrel::Take(m_discSize, value); }
+    vantrel::Status get_DiscSize(DiscSizeEnum* out) const { return vantrel::Give(out, m_discSize); }
+    vantrel::Status put_DiscSize(DiscSizeEnum value) { return vantrel::Take(m_discSize, value); }
 
-    Status get_DiscVideoType(DiscVideoType* out) const
+    vantrel::Status get_DiscVideoType(DiscVideoType* out) const
     {
         return vantrel::Give(out, m_discVideoType);
     }
-    Status put_DiscVideoType(DiscVideoType value) { return vantrel::Take(m_discVideoType, value); }
+    vantrel::Status put_DiscVideoType(DiscVideoType value)
+    {
+        return vantrel::Take(m_discVideoType, value);
+    }
 
     /// The version that is stamped on a saved file: always 900.
-    Status get_Version(unsigned long* out) const;
+    vantrel::Status get_Version(unsigned long* out) const;
     /// @}
 
     /// @name Settings of the session, which no file holds
     /// @{
-    Status get_VolumeName(std::string* out) const { return vantrel::Give(out, m_volumeName); }
-    Status put_VolumeName(std::string value)
+    vantrel::Status get_VolumeName(std::string* out) const
+    {
+        return vantrel::Give(out, m_volumeName);
+    }
+    vantrel::Status put_VolumeName(std::string value)
     {
         return vantrel::Take(m_volumeName, std::move(value));
     }
 
     /// The folder of the project file; every save sets it.
-    Status get_ProjectDirectory(std::string* out) const
+    vantrel::Status get_ProjectDirectory(std::string* out) const
     {
         return vantrel::Give(out, m_projectDirectory);
     }
-    Status put_ProjectDirectory(std::string value)
+    vantrel::Status put_ProjectDirectory(std::string value)
     {
         return vantrel::Take(m_projectDirectory, std::move(value));
     }
 
     /// Bits named by `FormatTargetType`.
-    Status get_TargetType(unsigned long* out) const { return vantrel::Give(out, m_targetType); }
-    Status put_TargetType(unsigned long value) { return vantrel::Take(m_targetType, value); }
+    vantrel::Status get_TargetType(unsigned long* out) const
+    {
+        return vantrel::Give(out, m_targetType);
+    }
+    vantrel::Status put_TargetType(unsigned long value)
+    {
+        return vantrel::Take(m_targetType, value);
+    }
 
-    Status get_ImagePath(std::string* out) const { return vantrel::Give(out, m_imagePath); }
-    Status put_ImagePath(std::string value) { return vantrel::Take(m_imagePath, std::move(value)); }
+    vantrel::Status get_ImagePath(std::string* out) const
+    {
+        return vantrel::Give(out, m_imagePath);
+    }
+    vantrel::Status put_ImagePath(std::string value)
+    {
+        return vantrel::Take(m_imagePath, std::move(value));
+    }
 
-    Status get_TargetDrive(std::string* out) const { return vantrel::Give(out, m_targetDrive); }
-    Status put_TargetDrive(std::string value)
+    vantrel::Status get_TargetDrive(std::string* out) const
+    {
+        return vantrel::Give(out, m_targetDrive);
+    }
+    vantrel::Status put_TargetDrive(std::string value)
     {
         return vantrel::Take(m_targetDrive, std::move(value));
     }
 
-    Status get_ProjectSize(long* out) const { return vantrel::Give(out, m_projectSize); }
-    Status put_ProjectSize(long value) { return vantrel::Take(m_projectSize, value); }
+    vantrel::Status get_ProjectSize(long* out) const { return vantrel::Give(out, m_projectSize); }
+    vantrel::Status put_ProjectSize(long value) { return vantrel::Take(m_projectSize, value); }
     /// @}
 
     /// @name Counts
     /// Null gives `status::kNullPointer`; without the list the result is 1 and `out` stays.
     /// @{
-    Status get_TitleCount(long* out);
-    Status get_MenuCount(long* out);
-    Status get_DataFileCount(long* out);
+    vantrel::Status get_TitleCount(long* out);
+    vantrel::Status get_MenuCount(long* out);
+    vantrel::Status get_DataFileCount(long* out);
     /// @}
 
     /// @name Titles, menus and data files by number
@@ -151,19 +196,19 @@ public:
     /// that is null, by ID; it is detached, and one that the library owns lives until the project
     /// goes, so that no pointer dangles.
     /// @{
-    Status GetTitle(long index, CDSTitle** out); ///< outside: 0, and a null title
-    Status AddTitle(long index, CDSTitle* title);
-    Status RemoveTitle(long id, CDSTitle* title);
-    Status MoveTitle(long from, long to);
+    vantrel::Status GetTitle(long index, CDSTitle** out); ///< outside: 0, and a null title
+    vantrel::Status AddTitle(long index, CDSTitle* title);
+    vantrel::Status RemoveTitle(long id, CDSTitle* title);
+    vantrel::Status MoveTitle(long from, long to);
 
-    Status GetMenu(long index, CDSMenu** out);
-    Status AddMenu(long index, CDSMenu* menu);
-    Status InsertMenu(long index, CDSMenu* menu); ///< the same
+    vantrel::Status GetMenu(long index, CDSMenu** out);
+    vantrel::Status AddMenu(long index, CDSMenu* menu);
+    vantrel::Status InsertMenu(long index, CDSMenu* menu); ///< the same
     /// Of several menus with one ID a template goes first.
-    Status RemoveMenu(long id, CDSMenu* menu);
+    vantrel::Status RemoveMenu(long id, CDSMenu* menu);
     /// `RemoveMenu` for each of these IDs, in one pass over the list.
-    Status RemoveMenus(const std::set<long>& ids);
-    Status MoveMenu(long from, long to);
+    vantrel::Status RemoveMenus(const std::set<long>& ids);
+    vantrel::Status MoveMenu(long from, long to);
 
     /// The first menu whose whole tag is `type`. False, with `out` untouched, when there is none, and
     /// for a null `out`.
@@ -172,50 +217,52 @@ public:
     bool GetChapTempMenu(CDSMenu** out);
 
     /// Copies the values of a data file, without its ID, into `out`.
-    Status GetDataFile(long index, CDSDataFile* out);
-    Status AddDataFile(long index, CDSDataFile* file);
-    Status RemoveDataFile(long id, CDSDataFile* file);
-    Status MoveDataFile(long from, long to);
+    vantrel::Status GetDataFile(long index, CDSDataFile* out);
+    vantrel::Status AddDataFile(long index, CDSDataFile* file);
+    vantrel::Status RemoveDataFile(long id, CDSDataFile* file);
+    vantrel::Status MoveDataFile(long from, long to);
     /// Copies the values of the first data file that matches all that is given: a null path and a tag
     /// of 0 match every file. 1, with `out` untouched, when there is none.
-    Status FindDataFile(std::string* source, std::string* dest, unsigned long tag,
-                        CDSDataFile* out);
+    vantrel::Status FindDataFile(std::string* source, std::string* dest, unsigned long tag,
+                                 CDSDataFile* out);
     /// Removes the first data file of that source, and copies its values to `out` if that isn't null.
-    Status RemoveDataFileBySource(std::string* source, CDSDataFile* out);
+    vantrel::Status RemoveDataFileBySource(std::string* source, CDSDataFile* out);
 
     /// The child of `list` at `position`, counted from 0, as a `T`; null when it is none.
     template <class T>
-    static Status GetObject(CProjectNode* list, long position, T** out);
+    static vantrel::Status GetObject(CProjectNode* list, long position, T** out);
 
     /// Takes titles, menus, data files and the project's commands out and releases what the library
     /// owns of them. The settings stay.
-    Status _Clear();
+    vantrel::Status _Clear();
     /// @}
 
     /// @name File form
     /// @{
     /// Replaces titles, menus, data files and commands, and takes over the settings, from the elements
     /// at and below `root`, wherever "Project" stands there. Null gives `status::kNoProjectNode`.
-    Status LoadXML(IXMLDOMNode* root);
+    vantrel::Status LoadXML(IXMLDOMNode* root);
 
     /// Writes "Project" with the whole tree as the last child of `parent`. Null gives
     /// `status::kNullPointer`.
-    Status SaveXML(IXMLDOMNode* parent);
+    vantrel::Status SaveXML(IXMLDOMNode* parent);
 
-    Status FillAttributeMap(std::map<std::string, std::string>& attributes, bool native) override;
-    Status ParseAttributeMap(const std::map<std::string, std::string>& attributes) override;
+    vantrel::Status FillAttributeMap(std::map<std::string, std::string>& attributes,
+                                     bool native) override;
+    vantrel::Status ParseAttributeMap(
+        const std::map<std::string, std::string>& attributes) override;
     /// @}
 
 private:
     friend CDSMenu; // shares the templates
 
     static vantrel::AttributeTable<CDSProjectData> Attributes();
-    Status CountOf(int position, long* out);
+    vantrel::Status CountOf(int position, long* out);
     CProjectNode* MenuToRemove(long id);
     void Remove(CProjectNode& list, const std::function<bool(CProjectNode&)>& which);
-    Status AddTo(int position, long index, CProjectNode* node);
-    Status RemoveFrom(int position, long id, CProjectNode* node);
-    Status MoveIn(int position, long from, long to);
+    vantrel::Status AddTo(int position, long index, CProjectNode* node);
+    vantrel::Status RemoveFrom(int position, long id, CProjectNode* node);
+    vantrel::Status MoveIn(int position, long from, long to);
 
     std::string m_label;
     std::string m_displayName; ///< "name"
@@ -241,13 +288,13 @@ private:
 };
 
 template <class T>
-Status CDSProjectData::GetObject(CProjectNode* list, long position, T** out)
+vantrel::Status CDSProjectData::GetObject(CProjectNode* list, long position, T** out)
 {
     if (!list)
-        return status::kNullPointer;
+        return vantrel::status::kNullPointer;
     if (position < 0 || position >= list->GetNumChildren())
-        return status::kNoSuchObject;
+        return vantrel::status::kNoSuchObject;
     if (out)
         *out = dynamic_cast<T*>(list->GetChild(static_cast<int>(position)));
-    return status::kOk;
+    return vantrel::status::kOk;
 }

@@ -28,53 +28,70 @@ public:
     ~CDSTitle() override;
 
     /// Makes the two fixed children that the title doesn't have yet.
-    Status FinalConstruct();
+    vantrel::Status FinalConstruct();
 
     /// @name Storyboard
     /// The title owns it. A new title has none; a load makes one when the file holds one.
     /// @{
     /// Makes an empty storyboard. 1 when the title has one.
-    Status CreateProduction();
+    vantrel::Status CreateProduction();
     /// 1 when the title has none.
-    Status ReleaseProduction();
+    vantrel::Status ReleaseProduction();
     /// Releases the storyboard; the destructor does so too.
-    Status FinalRelease();
+    vantrel::Status FinalRelease();
     /// 1, with null in `*out`, when the title has none.
-    Status GetProduction(CQZBaseSBD** out);
+    vantrel::Status GetProduction(CQZBaseSBD** out);
     /// @}
 
-    Status get_ID(long* out) const { return vantrel::Give(out, GetID()); }
+    vantrel::Status get_ID(long* out) const { return vantrel::Give(out, GetID()); }
 
     /// Bits named by `FormatTitleTag`.
-    Status get_Tag(unsigned long* out) const { return vantrel::Give(out, m_tag); }
-    Status put_Tag(unsigned long value) { return vantrel::Take(m_tag, value); }
+    vantrel::Status get_Tag(unsigned long* out) const { return vantrel::Give(out, m_tag); }
+    vantrel::Status put_Tag(unsigned long value) { return vantrel::Take(m_tag, value); }
 
-    Status get_Flags(unsigned long* out) const { return vantrel::Give(out, m_flags); }
-    Status put_Flags(unsigned long value) { return vantrel::Take(m_flags, value); }
+    vantrel::Status get_Flags(unsigned long* out) const { return vantrel::Give(out, m_flags); }
+    vantrel::Status put_Flags(unsigned long value) { return vantrel::Take(m_flags, value); }
 
-    Status get_Label(std::string* out) const { return vantrel::Give(out, m_label); }
-    Status put_Label(std::string value) { return vantrel::Take(m_label, std::move(value)); }
+    vantrel::Status get_Label(std::string* out) const { return vantrel::Give(out, m_label); }
+    vantrel::Status put_Label(std::string value)
+    {
+        return vantrel::Take(m_label, std::move(value));
+    }
 
     /// Not in the file.
-    Status get_Source(std::string* out) const { return vantrel::Give(out, m_source); }
-    Status put_Source(std::string value) { return vantrel::Take(m_source, std::move(value)); }
+    vantrel::Status get_Source(std::string* out) const { return vantrel::Give(out, m_source); }
+    vantrel::Status put_Source(std::string value)
+    {
+        return vantrel::Take(m_source, std::move(value));
+    }
 
     /// The title's place on the disc. A negative value gives `status::kBadArgument`.
-    Status get_DiscIndex(long* out) const { return vantrel::Give(out, m_discIndex); }
-    Status put_DiscIndex(long value);
+    vantrel::Status get_DiscIndex(long* out) const { return vantrel::Give(out, m_discIndex); }
+    vantrel::Status put_DiscIndex(long value);
 
     /// How long a still stays, in seconds. A negative value gives `status::kBadArgument`.
-    Status get_StillWaitTime(long* out) const { return vantrel::Give(out, m_stillWaitTime); }
-    Status put_StillWaitTime(long value);
+    vantrel::Status get_StillWaitTime(long* out) const
+    {
+        return vantrel::Give(out, m_stillWaitTime);
+    }
+    vantrel::Status put_StillWaitTime(long value);
 
     /// Duration and size once the title has been built.
-    Status get_VOBDuration(unsigned long* out) const { return vantrel::Give(out, m_vobDuration); }
-    Status put_VOBDuration(unsigned long value) { return vantrel::Take(m_vobDuration, value); }
-    Status get_VOBSize(double* out) const { return vantrel::Give(out, m_vobSize); }
-    Status put_VOBSize(double value) { return vantrel::Take(m_vobSize, value); }
+    vantrel::Status get_VOBDuration(unsigned long* out) const
+    {
+        return vantrel::Give(out, m_vobDuration);
+    }
+    vantrel::Status put_VOBDuration(unsigned long value)
+    {
+        return vantrel::Take(m_vobDuration, value);
+    }
+    vantrel::Status get_VOBSize(double* out) const { return vantrel::Give(out, m_vobSize); }
+    vantrel::Status put_VOBSize(double value) { return vantrel::Take(m_vobSize, value); }
 
-    Status FillAttributeMap(std::map<std::string, std::string>& attributes, bool native) override;
-    Status ParseAttributeMap(const std::map<std::string, std::string>& attributes) override;
+    vantrel::Status FillAttributeMap(std::map<std::string, std::string>& attributes,
+                                     bool native) override;
+    vantrel::Status ParseAttributeMap(
+        const std::map<std::string, std::string>& attributes) override;
 
 private:
     friend void vantrel::MakeFixedChild(CProjectNode& parent, eNodeType type);

@@ -14,21 +14,21 @@ public:
     ~CMenuButtonImpl() override;
 
     /// The raw position of the anchor in force, else the button's own.
-    Status getPosition(float* x, float* y) const override;
+    vantrel::Status getPosition(float* x, float* y) const override;
     /// With an anchor in force moves the elements that have effects, so that the anchor comes to
     /// (x, y); a way of at most 1e-7 on both axes moves nothing.
-    Status setPosition(float x, float y) override;
+    vantrel::Status setPosition(float x, float y) override;
 
     /// The union of the elements' extents.
-    Status getExtent(FRect* out) const override;
+    vantrel::Status getExtent(FRect* out) const override;
 
     /// Hands the offsets on to the elements that have effects with others.
-    Status setTimeOffsets(const double* start, const double* end) override;
+    vantrel::Status setTimeOffsets(const double* start, const double* end) override;
 
-    Status LoadElementAttributes(const std::map<std::string, std::string>& attributes,
-                                 bool ownGeometry) override;
-    Status SaveElementAttributes(std::map<std::string, std::string>& attributes,
-                                 bool ownGeometry) const override;
+    vantrel::Status LoadElementAttributes(const std::map<std::string, std::string>& attributes,
+                                          bool ownGeometry) override;
+    vantrel::Status SaveElementAttributes(std::map<std::string, std::string>& attributes,
+                                          bool ownGeometry) const override;
 
     /// True without an anchor, in force or not. Whether the menu is native is another question.
     bool isNative() const { return m_anchorID == 0; }
@@ -36,7 +36,7 @@ public:
     /// Puts the anchor in force, choosing the first element with an effect when there is none; or
     /// ends that, and leaves the button where it appeared. Without such an element the button has no
     /// anchor afterwards.
-    Status EnableAnchorElement(bool enable);
+    vantrel::Status EnableAnchorElement(bool enable);
 
     /// The node of the anchor in force, or null.
     CProjectNode* getAnchorElement() const;

@@ -35,61 +35,61 @@ public:
     virtual ~CMenuElementImpl();
 
     /// The position, for an element with an effect inside a button relative to the button.
-    virtual Status getPosition(float* x, float* y) const;
-    virtual Status setPosition(float x, float y);
+    virtual vantrel::Status getPosition(float* x, float* y) const;
+    virtual vantrel::Status setPosition(float x, float y);
 
     /// The four corners on the menu, in the order of `getModelRect`; none for an element without a
     /// rectangle of its own. What the vector held is forgotten.
-    virtual Status getBoundingBox(std::vector<FPoint>* corners) const;
+    virtual vantrel::Status getBoundingBox(std::vector<FPoint>* corners) const;
 
     /// The rectangle around the corners; the zero rectangle without corners.
-    virtual Status getExtent(FRect* out) const;
+    virtual vantrel::Status getExtent(FRect* out) const;
 
     /// The times, in seconds, that the effect starts after and ends before its surroundings. 1
     /// without an effect; a number that is not finite gives `status::kBadArgument`.
-    virtual Status setTimeOffsets(const double* start, const double* end);
+    virtual vantrel::Status setTimeOffsets(const double* start, const double* end);
 
     /// Takes over the attributes of the element part: with `ownGeometry` position, rotation and depth
     /// too.
-    virtual Status LoadElementAttributes(const std::map<std::string, std::string>& attributes,
-                                         bool ownGeometry);
+    virtual vantrel::Status LoadElementAttributes(
+        const std::map<std::string, std::string>& attributes, bool ownGeometry);
     /// Adds the attributes of the element part. A node of a type that is no element gives
     /// `status::kUnexpected` and adds nothing.
-    virtual Status SaveElementAttributes(std::map<std::string, std::string>& attributes,
-                                         bool ownGeometry) const;
+    virtual vantrel::Status SaveElementAttributes(std::map<std::string, std::string>& attributes,
+                                                  bool ownGeometry) const;
 
     /// Adds the corners around the origin, before scaling. Left-top, left-bottom, right-bottom,
     /// right-top.
-    virtual Status getModelRect(std::vector<FPoint>& corners) const;
-    virtual Status getScalingXForm(FPoint* scale) const;
+    virtual vantrel::Status getModelRect(std::vector<FPoint>& corners) const;
+    virtual vantrel::Status getScalingXForm(FPoint* scale) const;
 
     /// @name Kind
     /// @{
     /// Bits named by `FormatButtonTag`, `FormatOverlayTag` or `FormatTextTag`.
-    Status getTag(unsigned long* out) const;
+    vantrel::Status getTag(unsigned long* out) const;
     /// `notify` has no effect.
-    Status setTag(unsigned long value, bool notify);
-    Status getFlags(unsigned long* out) const;
-    Status setFlags(unsigned long value);
-    Status getTemplateID(long* out) const;
-    Status setTemplateID(long value);
+    vantrel::Status setTag(unsigned long value, bool notify);
+    vantrel::Status getFlags(unsigned long* out) const;
+    vantrel::Status setFlags(unsigned long value);
+    vantrel::Status getTemplateID(long* out) const;
+    vantrel::Status setTemplateID(long value);
     /// Depth order. A negative value gives `status::kBadArgument`.
-    Status getZOrder(long* out) const;
-    Status setZOrder(long value);
+    vantrel::Status getZOrder(long* out) const;
+    vantrel::Status setZOrder(long value);
     /// @}
 
     /// @name Place
     /// @{
     /// The position as the element or its effect holds it.
-    Status getRawPosition(float* x, float* y) const;
-    Status setRawPosition(float x, float y);
-    Status getRotation(float* degrees) const;
-    Status setRotation(float degrees);
-    Status getTimeOffsets(double* start, double* end) const;
+    vantrel::Status getRawPosition(float* x, float* y) const;
+    vantrel::Status setRawPosition(float x, float y);
+    vantrel::Status getRotation(float* degrees) const;
+    vantrel::Status setRotation(float degrees);
+    vantrel::Status getTimeOffsets(double* start, double* end) const;
 
     /// What the corners are moved by after they were turned, the position of the button around the
     /// element, and before, the element's own.
-    Status getTranslationXForms(FPoint* parentOffset, FPoint* ownOffset) const;
+    vantrel::Status getTranslationXForms(FPoint* parentOffset, FPoint* ownOffset) const;
     /// @}
 
     /// @name Surroundings

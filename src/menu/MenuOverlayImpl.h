@@ -14,35 +14,35 @@ public:
     explicit CMenuOverlayImpl(CProjectNode* node);
     ~CMenuOverlayImpl() override;
 
-    Status getSize(float* width, float* height) const;
-    Status setSize(float width, float height);
+    vantrel::Status getSize(float* width, float* height) const;
+    vantrel::Status setSize(float width, float height);
 
     /// A path below the content folder of a theme.
-    Status getSource(std::string* out) const;
-    Status setSource(std::string value);
-    Status getAlphaMask(std::string* out) const;
-    Status setAlphaMask(std::string value);
+    vantrel::Status getSource(std::string* out) const;
+    vantrel::Status setSource(std::string value);
+    vantrel::Status getAlphaMask(std::string* out) const;
+    vantrel::Status setAlphaMask(std::string value);
 
     /// A value below 0.0 gives `status::kNegativeInPoint` and `status::kNegativeOutPoint`. The two
     /// are not compared with each other, and a file may say what the setters refuse.
-    Status getInPoint(double* out) const;
-    Status setInPoint(double value);
-    Status getOutPoint(double* out) const;
-    Status setOutPoint(double value);
+    vantrel::Status getInPoint(double* out) const;
+    vantrel::Status setInPoint(double value);
+    vantrel::Status getOutPoint(double* out) const;
+    vantrel::Status setOutPoint(double value);
 
     /// How the source is turned. Not in the file.
-    Status getSourceRotation(long* out) const;
-    Status setSourceRotation(long value);
+    vantrel::Status getSourceRotation(long* out) const;
+    vantrel::Status setSourceRotation(long value);
 
     /// There is nothing to refresh: gives 0.
-    Status refreshSource();
+    vantrel::Status refreshSource();
 
-    Status getModelRect(std::vector<FPoint>& corners) const override;
+    vantrel::Status getModelRect(std::vector<FPoint>& corners) const override;
 
-    Status LoadElementAttributes(const std::map<std::string, std::string>& attributes,
-                                 bool ownGeometry) override;
-    Status SaveElementAttributes(std::map<std::string, std::string>& attributes,
-                                 bool ownGeometry) const override;
+    vantrel::Status LoadElementAttributes(const std::map<std::string, std::string>& attributes,
+                                          bool ownGeometry) override;
+    vantrel::Status SaveElementAttributes(std::map<std::string, std::string>& attributes,
+                                          bool ownGeometry) const override;
 
 protected:
     template <class Node>

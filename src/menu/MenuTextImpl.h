@@ -26,76 +26,76 @@ public:
 
     /// @name Words and look
     /// @{
-    Status getString(std::string* out);
-    Status setString(std::string text);
+    vantrel::Status getString(std::string* out);
+    vantrel::Status setString(std::string text);
 
     /// `TEXT_JUSTIFY_...`
-    Status getJustify(unsigned long* out);
-    Status setJustify(unsigned long justification);
+    vantrel::Status getJustify(unsigned long* out);
+    vantrel::Status setJustify(unsigned long justification);
 
-    Status getFontName(std::string* out);
-    Status setFontName(std::string face);
+    vantrel::Status getFontName(std::string* out);
+    vantrel::Status setFontName(std::string face);
 
     /// Outside of 8 to 128 the setter gives `status::kBadArgument`.
-    Status getFontHeight(long* out);
-    Status setFontHeight(long height);
+    vantrel::Status getFontHeight(long* out);
+    vantrel::Status setFontHeight(long height);
 
     /// The height as it stands in the text: a number or a string reference.
-    Status getFontHeightString(std::string* out);
-    Status setFontHeightString(std::string height);
+    vantrel::Status getFontHeightString(std::string* out);
+    vantrel::Status setFontHeightString(std::string height);
 
     /// `TEXT_STYLE_...`
-    Status getStyle(unsigned long* out);
-    Status setStyle(unsigned long style);
+    vantrel::Status getStyle(unsigned long* out);
+    vantrel::Status setStyle(unsigned long style);
     /// The flags of the first run's fonts, which say nothing of the style.
-    Status GetFontBIU(bool& bold, bool& italic, bool& underline);
+    vantrel::Status GetFontBIU(bool& bold, bool& italic, bool& underline);
 
     /// 0xAABBGGRR
-    Status getColor(unsigned long* out);
-    Status setColor(unsigned long color);
+    vantrel::Status getColor(unsigned long* out);
+    vantrel::Status setColor(unsigned long color);
     /// @}
 
     /// @name Effect
     /// @{
     /// Keeps a deep copy of `node`, an "effect" element with "plugin_data"; null leaves the text
     /// without XML.
-    Status setEffectXML(_xmlNode* node);
+    vantrel::Status setEffectXML(_xmlNode* node);
     /// Hangs a deep copy of the XML under `node`. 1 when there is none.
-    Status getEffectXML(_xmlNode* node);
+    vantrel::Status getEffectXML(_xmlNode* node);
 
     /// Reads the text anew and gives the status of that.
-    Status LoadTextHelperXML();
+    vantrel::Status LoadTextHelperXML();
 
     /// The key of exactly that `time` of the effect's transform. Without such a key translation and
     /// rotation give 0.0 each and scaling 1.0; without XML the outputs stay, with 0.
-    Status get3DKeyFrame(unsigned long mask, double time, KVC_KEYFRAME_TYPE type, float* x,
-                         float* y, float* z, unsigned long* caps) const;
+    vantrel::Status get3DKeyFrame(unsigned long mask, double time, KVC_KEYFRAME_TYPE type, float* x,
+                                  float* y, float* z, unsigned long* caps) const;
     /// @}
 
     /// @name Handle
     /// @{
-    Status getHandle(_TextHandles* out) const;
+    vantrel::Status getHandle(_TextHandles* out) const;
     /// Outside of 1 to 9: `status::kBadArgument`.
-    Status setHandle(_TextHandles value);
+    vantrel::Status setHandle(_TextHandles value);
 
     /// Where the rectangle's centre lies seen from a handle, in half widths and half heights.
-    Status GetHandleCoords(_TextHandles handle, float* x, float* y) const;
+    vantrel::Status GetHandleCoords(_TextHandles handle, float* x, float* y) const;
     /// The handle of exactly these coordinates; "TopLeft" for any others.
     _TextHandles GetHandleEnum(const float* x, const float* y) const;
 
     /// "rotateAngle" of the file, which nothing computes with.
-    Status getRotateAngle(double* out) const;
+    vantrel::Status getRotateAngle(double* out) const;
     /// @}
 
-    Status getBoundingBox(std::vector<FPoint>* corners) const override;
+    vantrel::Status getBoundingBox(std::vector<FPoint>* corners) const override;
     /// Without XML 1, and no corners.
-    Status getModelRect(std::vector<FPoint>& corners) const override;
-    Status getScalingXForm(FPoint* scale) const override;
+    vantrel::Status getModelRect(std::vector<FPoint>& corners) const override;
+    vantrel::Status getScalingXForm(FPoint* scale) const override;
 
-    Status LoadElementAttributes(const std::map<std::string, std::string>& attributes,
-                                 bool ownGeometry) override;
-    Status SaveElementAttributes(std::map<std::string, std::string>& attributes,
-                                 bool ownGeometry) const override;
+    vantrel::Status LoadElementAttributes(const std::map<std::string, std::string>& attributes,
+                                          bool ownGeometry) override;
+    vantrel::Status SaveElementAttributes(std::map<std::string, std::string>& attributes,
+                                          bool ownGeometry) const override;
 
 protected:
     template <class Node>
@@ -104,7 +104,7 @@ protected:
     /// Keeps `effect` of a file that is read, and hangs it under the element of a file that is
     /// written. Without XML the second gives `status::kNullPointer`.
     void KeepEffectXML(_xmlNode* effect);
-    Status WriteEffectXML(_xmlNode* element) const;
+    vantrel::Status WriteEffectXML(_xmlNode* element) const;
 
 private:
     struct RestingPose;
@@ -115,11 +115,11 @@ private:
     RestingPose Pose() const;
     void ForgetWhatWasRead();
     template <class Ask>
-    Status Answer(Ask ask);
+    vantrel::Status Answer(Ask ask);
     template <class Change>
-    Status Edit(Change change);
+    vantrel::Status Edit(Change change);
     template <class Change>
-    Status EditEffect(Change change);
+    vantrel::Status EditEffect(Change change);
 
     _TextHandles m_handle = _TextHandles::TopLeft;
     double m_rotateAngle = 0.0;

@@ -155,7 +155,7 @@ public:
     }
 
     /// Puts the attributes on an element that has none of them yet.
-    Status Write(const Node& node, bool native, xmlNode* element) const
+    vantrel::Status Write(const Node& node, bool native, xmlNode* element) const
     {
         std::string text;
         for (const AttributeName& name : Names()) {
@@ -163,11 +163,11 @@ public:
             if (!IsWritten(row, node, native))
                 continue;
             WriteText(row, node, native, text);
-            const Status added = AddReportedAttribute(element, row.name, text);
-            if (Failed(added))
+            const vantrel::Status added = AddReportedAttribute(element, row.name, text);
+            if (vantrel::Failed(added))
                 return added;
         }
-        return status::kOk;
+        return vantrel::status::kOk;
     }
 
     /// Takes over what `source`, a map or an element, has of the attributes.

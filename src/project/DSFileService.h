@@ -27,37 +27,37 @@ public:
     /// can't be opened and a full disk leave the old one as it was. Gives `status::kNullPointer` for a
     /// null project, `status::kBadArgument` for an empty path and `status::kUnwritableFile` when the
     /// file can't be opened, written or closed.
-    Status SaveProject(std::string path, CDSProjectData* project);
+    vantrel::Status SaveProject(std::string path, CDSProjectData* project);
 
     /// The same, but through a new file that replaces the old one whole: at every moment there is the
     /// old content or the new. The mode is kept and a symbolic link followed; other hard links to the
     /// old file keep the old content.
-    Status SaveProjectAtomic(std::string path, CDSProjectData* project);
+    vantrel::Status SaveProjectAtomic(std::string path, CDSProjectData* project);
 
     /// The part of `SaveProject` that builds the document and writes the file. A null project gives
     /// `status::kNullPointer`.
-    Status SaveProjectAux(std::string path, CDSProjectData* project);
+    vantrel::Status SaveProjectAux(std::string path, CDSProjectData* project);
 
     /// Fills the root element of a new file. A null argument, or an element that belongs to no
     /// document, gives `status::kNullPointer`.
-    Status WriteProjectXML(IXMLDOMNode* root, CDSProjectData* project);
+    vantrel::Status WriteProjectXML(IXMLDOMNode* root, CDSProjectData* project);
 
     /// Loads the file at `path` into `project`. Gives `status::kUnreadableFile`, with a message on
     /// standard output, for what is no XML file, `status::kNullPointer` for a null argument or a
     /// document without root, and `status::kOldVersion` below version 800; the project is then as it
     /// was. What is wrong in single elements spoils no more than those: the result is 0.
-    Status LoadProject(const char* path, CDSProjectData* project);
+    vantrel::Status LoadProject(const char* path, CDSProjectData* project);
 
     /// The "Version" of the file's "Project" element, 0 if it has none.
     unsigned long ReadVersion(IXMLDOMElement* root);
 
     /// Reads the elements of a file and the storyboards into the project. Gives 1 when they were read.
-    Status ReadProjectXML(IXMLDOMNode* root, CDSProjectData* project);
+    vantrel::Status ReadProjectXML(IXMLDOMNode* root, CDSProjectData* project);
 
     /// Takes out the template menus that no ordinary menu was made from, directly or through a chain
     /// of templates. A project without titles whose menus use no template keeps them all. Gives 0, a
     /// null project `status::kNullPointer`.
-    Status RemoveUnusedTemplates(CDSProjectData* project);
+    vantrel::Status RemoveUnusedTemplates(CDSProjectData* project);
 
     /// @name Storyboards in the file
     /// "Productions" has one element for each title and ordinary menu with a storyboard, named after
@@ -67,12 +67,12 @@ public:
     /// when there is an element for it. Nodes of one ID each get the whole of their element, but no
     /// more than 16 of them. What fails in one spoils no more than that one: the result is 0, and
     /// `status::kNullPointer` for a null argument.
-    Status PersistStoryboards(CDSProjectData* project, _xmlNode* productions, bool save);
+    vantrel::Status PersistStoryboards(CDSProjectData* project, _xmlNode* productions, bool save);
 
     /// Writes or reads one storyboard as the child `name` of `productions`. Gives 0, and does nothing
     /// where there is no storyboard.
-    Status PersistProductionXML(_xmlNode* productions, CQZBaseSBD* storyboard, std::string name,
-                                bool save);
+    vantrel::Status PersistProductionXML(_xmlNode* productions, CQZBaseSBD* storyboard,
+                                         std::string name, bool save);
 
     /// The node's storyboard, or null.
     CQZBaseSBD* GetProductionObj(CDSTitle* title);
@@ -84,9 +84,9 @@ public:
     /// @}
 
 private:
-    using FileWriter = Status (*)(const std::string& path, std::string_view bytes);
-    Status Save(std::string path, CDSProjectData* project, FileWriter write);
-    Status WriteFile(const std::string& path, CDSProjectData* project, FileWriter write);
+    using FileWriter = vantrel::Status (*)(const std::string& path, std::string_view bytes);
+    vantrel::Status Save(std::string path, CDSProjectData* project, FileWriter write);
+    vantrel::Status WriteFile(const std::string& path, CDSProjectData* project, FileWriter write);
     void WriteStoryboards(CDSProjectData& project, _xmlNode* productions);
     void ReadStoryboards(CDSProjectData& project, _xmlNode* productions);
 };

@@ -4,6 +4,7 @@
 
 using std::map;
 using std::string;
+using namespace vantrel;
 
 CDSList::CDSList(eNodeType type) : CProjectNode(type)
 {}

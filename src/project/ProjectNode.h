@@ -38,11 +38,11 @@ public:
 
     /// Takes over the attributes of an element. Null gives `status::kNotAvailable`, an element
     /// without attributes 1 and no change.
-    virtual Status Read(IXMLDOMNode* node);
+    virtual vantrel::Status Read(IXMLDOMNode* node);
 
     /// Puts this node's attributes on an element. `native` other than 0 asks menus and buttons for
     /// their native form. Null gives `status::kNotAvailable`.
-    virtual Status Write(IXMLDOMNode* node, long native);
+    virtual vantrel::Status Write(IXMLDOMNode* node, long native);
 
     /// Tells the parents, up to the root, that something changed. No flag is stored.
     virtual void SetDirtyFlag();
@@ -56,23 +56,24 @@ public:
 
     /// Adds this node's attributes, name to text, to the map. The order of the map is the order of
     /// the attributes in a file.
-    virtual Status FillAttributeMap(std::map<std::string, std::string>& attributes,
-                                    bool native) = 0;
+    virtual vantrel::Status FillAttributeMap(std::map<std::string, std::string>& attributes,
+                                             bool native) = 0;
 
     /// Takes over the attributes that the map has and leaves everything else as it is.
-    virtual Status ParseAttributeMap(const std::map<std::string, std::string>& attributes) = 0;
+    virtual vantrel::Status ParseAttributeMap(
+        const std::map<std::string, std::string>& attributes) = 0;
 
     /// The body of `Read`: keeps the document's path, then parses the attributes by local name; one
     /// with a prefix never hides one without.
-    virtual Status ReadXML(IXMLDOMNode* node);
+    virtual vantrel::Status ReadXML(IXMLDOMNode* node);
 
     /// The body of `Write`.
-    virtual Status WriteXML(IXMLDOMNode* node, long native);
+    virtual vantrel::Status WriteXML(IXMLDOMNode* node, long native);
 
     /// Sets one attribute for each entry, in the map's order, with values made fit for a file. A
     /// name that XML can't have is reported on standard output and gives `status::kNullPointer`.
-    Status WriteNodeAttributes(IXMLDOMNode* node,
-                               const std::map<std::string, std::string>& attributes);
+    vantrel::Status WriteNodeAttributes(IXMLDOMNode* node,
+                                        const std::map<std::string, std::string>& attributes);
 
     /// Resolves a reference "stringRef:Table.Key" through "ThemeStrings.xml" in the content folder of
     /// the document that this node was read from. True with the string in `out`; false, with `source`
@@ -154,7 +155,7 @@ private:
     void Detach(CProjectNode* child);
     bool HangsBelow(const CProjectNode* node) const;
     void KeepDocumentPath(const _xmlDoc* doc);
-    Status ReadAttributesByMap(const _xmlNode* element);
+    vantrel::Status ReadAttributesByMap(const _xmlNode* element);
 
     std::shared_ptr<const std::string> m_documentPath; ///< shared with the parent where equal
     std::unique_ptr<CResourceLoader> m_pResLoader;     ///< made at the first need

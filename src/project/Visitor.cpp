@@ -2,6 +2,8 @@
 
 #include "project/ProjectNode.h"
 
+using namespace vantrel;
+
 Status CVisitor::Traverse(CProjectNode* node, long arg)
 {
     ++m_depth;

@@ -16,10 +16,10 @@ public:
 
     /// Visits `node`, then its children in order, whatever they return. `arg` goes to every visit in
     /// the place of the XML node. Gives 0.
-    virtual Status Traverse(CProjectNode* node, long arg);
+    virtual vantrel::Status Traverse(CProjectNode* node, long arg);
 
     /// What happens at each node.
-    virtual Status Visit(CProjectNode* node, IXMLDOMNode* element, long native) = 0;
+    virtual vantrel::Status Visit(CProjectNode* node, IXMLDOMNode* element, long native) = 0;
 
 protected:
     std::int32_t m_depth = 0; ///< how many nodes the walk is inside of

@@ -16,13 +16,13 @@ public:
     /// afterwards. `native` goes to every node. A null node or position, or a node of no row and no
     /// name, gives `status::kNullPointer`. The first failure ends the walk and is returned; what was
     /// written before it stays.
-    Status Traverse(CProjectNode* node, long native) override;
+    vantrel::Status Traverse(CProjectNode* node, long native) override;
 
     /// Puts the node's attributes on `element` and hangs that under the position, which moves to it.
-    Status Visit(CProjectNode* node, IXMLDOMNode* element, long native) override;
+    vantrel::Status Visit(CProjectNode* node, IXMLDOMNode* element, long native) override;
 
 private:
-    Status WriteChildren(CProjectNode& node, long native);
+    vantrel::Status WriteChildren(CProjectNode& node, long native);
 
     IXMLDOMNode* m_pCurrent = nullptr; ///< the document's
     _xmlDoc* m_pDoc = nullptr;         ///< the caller's

@@ -20,11 +20,11 @@ public:
 
     /// Reads `element` and all below it, but for its child "Productions", which holds nothing of the
     /// tree. Gives 0, whatever the elements held.
-    virtual Status LoadProject(IXMLDOMNode* element);
+    virtual vantrel::Status LoadProject(IXMLDOMNode* element);
 
     /// Reads one element and what lies below it. Only elements make nodes or are walked into. Null,
     /// or a node that can't be read, gives 1.
-    Status Traverse(IXMLDOMNode* element, CProjectNode* parent);
+    vantrel::Status Traverse(IXMLDOMNode* element, CProjectNode* parent);
 
     /// The node for an element of that name below `parent`: the root, a child that the parent has, or
     /// a new one, which the parent then owns. A new node without a parent is the caller's. Null when
@@ -32,7 +32,7 @@ public:
     CProjectNode* GetProjectNode(std::string element, CProjectNode* parent);
 
 private:
-    Status Walk(IXMLDOMNode* element, CProjectNode* parent, const char* passedOver);
+    vantrel::Status Walk(IXMLDOMNode* element, CProjectNode* parent, const char* passedOver);
 
     CProjectNode* m_pRoot;
 };

@@ -59,11 +59,11 @@ public:
 
     /// Turns the strings into numbers, and fills what the text left open from the defaults of the
     /// text engine. A size or colour on which the runs differ becomes 0. Always gives 0.
-    Status Reconcile();
+    vantrel::Status Reconcile();
 
     /// Gives the alignment as `TEXT_JUSTIFY_...`. Without an alignment the status is
     /// `status::kNothingDone` and the number `TEXT_JUSTIFY_UNKNOWN`.
-    Status GetJustification(unsigned long* out) const;
+    vantrel::Status GetJustification(unsigned long* out) const;
 
     unsigned long m_style = TEXT_STYLE_NOT_BOLD | TEXT_STYLE_NOT_ITALIC;
     int m_fontHeight = -1;

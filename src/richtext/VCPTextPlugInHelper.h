@@ -21,28 +21,28 @@ class VANTREL_API CVCPTextPlugInHelper : public CVCPPlugInHelper
 public:
     /// Reads the transform and the text of an effect. A former text is forgotten first. Gives
     /// `status::kBadArgument` when there is no body.
-    Status LoadXML(_xmlNode* node);
+    vantrel::Status LoadXML(_xmlNode* node);
 
     /// As `CVCPPlugInHelper::SaveXML`, with the text as it is now.
-    Status SaveXML(_xmlNode** out) const;
+    vantrel::Status SaveXML(_xmlNode** out) const;
 
     /// Lets go of the XML. The summary stays.
-    Status ReleaseXML();
+    vantrel::Status ReleaseXML();
 
     /// Reads the text again, without turning its strings into numbers.
-    Status Parse();
+    vantrel::Status Parse();
     /// Turns the strings of the summary into numbers.
-    Status ReconcileAttributes();
+    vantrel::Status ReconcileAttributes();
 
     /// Summarises the runs below `body`. Null gives `status::kNullPointer`.
-    Status LoadXMLNodeList2(_xmlNode* body);
+    vantrel::Status LoadXMLNodeList2(_xmlNode* body);
 
     /// @name Words
     /// @{
 
     /// A text without words gives `status::kNothingDone` and leaves `out` alone.
-    Status GetTextString(std::string* out) const;
-    Status PutTextString(std::string text, bool keep);
+    vantrel::Status GetTextString(std::string* out) const;
+    vantrel::Status PutTextString(std::string text, bool keep);
     /// @}
 
     /// @name Alignment
@@ -50,9 +50,9 @@ public:
     /// @{
 
     /// `status::kFailure` when nothing is loaded.
-    Status GetJustification(unsigned long* out) const;
+    vantrel::Status GetJustification(unsigned long* out) const;
     /// `TEXT_JUSTIFY_MIXED` and `TEXT_JUSTIFY_UNKNOWN` give `status::kBadArgument`.
-    Status SetJustification(unsigned long justification);
+    vantrel::Status SetJustification(unsigned long justification);
     /// @}
 
     /// @name Font
@@ -61,42 +61,43 @@ public:
     /// @{
 
     /// "undetermined" where the runs differ.
-    Status GetFont(std::string* out) const;
-    Status SetFont(std::string face);
+    vantrel::Status GetFont(std::string* out) const;
+    vantrel::Status SetFont(std::string face);
 
     /// 0 where the runs differ.
-    Status GetFontSize(int* out) const;
+    vantrel::Status GetFontSize(int* out) const;
     /// Outside of 8 to 128: `status::kBadArgument`.
-    Status SetFontSize(int size);
+    vantrel::Status SetFontSize(int size);
 
     /// The size as it stands in the text, which may be a string reference.
-    Status GetFontSizeString(std::string* out) const;
-    Status SetFontSizeString(std::string size);
+    vantrel::Status GetFontSizeString(std::string* out) const;
+    vantrel::Status SetFontSizeString(std::string size);
 
     /// 0xAABBGGRR
-    Status GetTextColor(unsigned long* out) const;
+    vantrel::Status GetTextColor(unsigned long* out) const;
     /// `status::kNotAvailable` without a loaded body.
-    Status SetTextColor(unsigned long color);
+    vantrel::Status SetTextColor(unsigned long color);
     /// @}
 
     /// @name Style
     /// `TEXT_STYLE_...`
     /// @{
 
-    Status GetStyle(unsigned long* out) const;
+    vantrel::Status GetStyle(unsigned long* out) const;
     /// Puts one of the four definite bits on the whole text. A mixed bit gives
     /// `status::kBadArgument`; a bit that the text has already, in the order italic, not italic,
     /// bold, not bold, leaves it as it is, whatever other bits are asked for.
-    Status SetStyle(unsigned long style);
+    vantrel::Status SetStyle(unsigned long style);
 
     /// The flags of the first run's fonts, which say nothing of the style.
-    Status GetFontBIU(bool& bold, bool& italic, bool& underline) const;
+    vantrel::Status GetFontBIU(bool& bold, bool& italic, bool& underline) const;
     /// @}
 
 private:
     template <class... Arguments>
-    Status Edit(Status (CVCPTextXMLEditor::*edit)(Arguments...), Arguments... arguments);
-    Status Refresh();
+    vantrel::Status Edit(vantrel::Status (CVCPTextXMLEditor::*edit)(Arguments...),
+                         Arguments... arguments);
+    vantrel::Status Refresh();
 
     _xmlNode* m_body = nullptr;  ///< the "body" element; not owned
     TextAttributes m_attributes; ///< the summary of the body

@@ -45,54 +45,55 @@ public:
     /// Replaces all words by `text`, which looks as the first run did. Line feeds at the head of
     /// the text are dropped: a text that begins with one would be taken for indentation. `keep` has
     /// no effect.
-    Status EditText(std::string text, bool keep);
+    vantrel::Status EditText(std::string text, bool keep);
 
     /// Aligns every paragraph, and makes one of words that stand in none. `TEXT_JUSTIFY_LEFT`,
     /// `TEXT_JUSTIFY_CENTER` or `TEXT_JUSTIFY_RIGHT`; anything else does nothing.
-    Status EditJustification(unsigned long justification);
+    vantrel::Status EditJustification(unsigned long justification);
 
     /// Puts bold or italic on the whole text, or takes it off. One edit follows one bit: the last
     /// of `TEXT_STYLE_NOT_ITALIC`, `TEXT_STYLE_ITALIC`, `TEXT_STYLE_NOT_BOLD`, `TEXT_STYLE_BOLD`
     /// that is set. A mixed bit gives `status::kBadArgument`, no bit `status::kFailure`.
-    Status EditStyle(unsigned long style);
+    vantrel::Status EditStyle(unsigned long style);
 
     /// Sets the font face of every run; an empty one takes it off.
-    Status EditFont(std::string face);
+    vantrel::Status EditFont(std::string face);
 
     /// Sets the size of every run.
-    Status EditFontSize(int size);
+    vantrel::Status EditFontSize(int size);
     /// The same with a text, such as a string reference; an empty one takes the size off.
-    Status EditFontSizeString(std::string size);
+    vantrel::Status EditFontSizeString(std::string size);
 
     /// Sets the colour of every run, 0xAABBGGRR, and takes a texture off the letters.
-    Status EditTextColor(unsigned long color);
+    vantrel::Status EditTextColor(unsigned long color);
     /// @}
 
     /// @name Tag operations
     /// Each takes one format string of its kind.
     /// @{
-    Status EditTextTags(std::string format, bool keep);
-    Status EditParagraphTags(std::string format);
-    Status EditStyleTags(std::string format, unsigned long style);
-    Status EditFontTags(std::string format);
+    vantrel::Status EditTextTags(std::string format, bool keep);
+    vantrel::Status EditParagraphTags(std::string format);
+    vantrel::Status EditStyleTags(std::string format, unsigned long style);
+    vantrel::Status EditFontTags(std::string format);
     /// @}
 
     /// @name Steps
     /// @{
 
     /// Notes that the text is to be emptied.
-    Status EmptyDocument();
+    vantrel::Status EmptyDocument();
 
     /// Splits a format string into the element's name, the argument as a whole and the element's
     /// attributes. The first pass over a format also sets the operation. An empty format gives
     /// `status::kFailure`; one that is not of the language gives an empty `tag`.
-    Status ParseFormatString(const std::string& format, std::string& tag, std::string& text,
-                             std::map<std::string, std::string>& attributes, bool first);
+    vantrel::Status ParseFormatString(const std::string& format, std::string& tag,
+                                      std::string& text,
+                                      std::map<std::string, std::string>& attributes, bool first);
 
     /// Applies a paragraph format to all paragraphs below `node`.
-    Status ParseFrameList(_xmlNode*& node, const std::string& format);
+    vantrel::Status ParseFrameList(_xmlNode*& node, const std::string& format);
     /// Applies a paragraph format to one paragraph.
-    Status EditFrame(_xmlNode*& node, const std::string& format);
+    vantrel::Status EditFrame(_xmlNode*& node, const std::string& format);
 
     /// True when the only element right below `node` is one of the kind being edited. `found`,
     /// which may be null, receives the address of the first such element, or 0.
@@ -100,38 +101,40 @@ public:
 
     /// Adds a child element before or behind the child `node`, as the last child when that is null.
     /// `out` may be null.
-    Status InsertNode(_xmlNode* parent, std::string name,
-                      std::map<std::string, std::string>& attributes, bool before, _xmlNode*& node,
-                      _xmlNode** out);
+    vantrel::Status InsertNode(_xmlNode* parent, std::string name,
+                               std::map<std::string, std::string>& attributes, bool before,
+                               _xmlNode*& node, _xmlNode** out);
 
     /// Takes an element below the body out of its tree and keeps its content there. `node`
     /// becomes null.
-    Status DeleteNode(_xmlNode*& node);
+    vantrel::Status DeleteNode(_xmlNode*& node);
 
     /// `XMLSaveAttributes`, or nothing for an empty map.
-    Status SetItemAttributes(_xmlNode*& node, std::map<std::string, std::string>& attributes);
+    vantrel::Status SetItemAttributes(_xmlNode*& node,
+                                      std::map<std::string, std::string>& attributes);
 
     /// Sets attributes in the map's order. One that the node has takes the new value in its place;
     /// the value "TEXTED_REMOVE" takes it off.
-    Status XMLSaveAttributes(_xmlNode* node, std::map<std::string, std::string>& attributes);
+    vantrel::Status XMLSaveAttributes(_xmlNode* node,
+                                      std::map<std::string, std::string>& attributes);
     /// @}
 
 protected:
-    _xmlNode* m_body;                   ///< not owned
-    _xmlDoc* m_doc;                     ///< not owned; null without a body
-    TextAttributes* m_attributes;       ///< the summary that the edit concerns; not owned
-    bool m_isValid;                     ///< body and attributes are there
-    bool m_isFontEdit = false;          ///< an edit of fonts was asked for
-    std::string m_operation;            ///< the letter of the format in progress
-    std::string m_format;               ///< the format in progress
-    bool m_emptied = false;             ///< the text was emptied
-    Status m_status = status::kFailure; ///< 0 once the text was emptied
-    std::string m_tagName;              ///< the element of the format in progress
+    _xmlNode* m_body;             ///< not owned
+    _xmlDoc* m_doc;               ///< not owned; null without a body
+    TextAttributes* m_attributes; ///< the summary that the edit concerns; not owned
+    bool m_isValid;               ///< body and attributes are there
+    bool m_isFontEdit = false;    ///< an edit of fonts was asked for
+    std::string m_operation;      ///< the letter of the format in progress
+    std::string m_format;         ///< the format in progress
+    bool m_emptied = false;       ///< the text was emptied
+    vantrel::Status m_status = vantrel::status::kFailure; ///< 0 once the text was emptied
+    std::string m_tagName;                                ///< the element of the format in progress
 
 private:
-    Status EditFontValue(const char* name, const std::string& value);
-    Status ReplaceText(const std::string& text);
-    Status PutStyle();
-    Status TakeStyleOff();
-    Status FormatFonts(const std::map<std::string, std::string>& attributes);
+    vantrel::Status EditFontValue(const char* name, const std::string& value);
+    vantrel::Status ReplaceText(const std::string& text);
+    vantrel::Status PutStyle();
+    vantrel::Status TakeStyleOff();
+    vantrel::Status FormatFonts(const std::map<std::string, std::string>& attributes);
 };

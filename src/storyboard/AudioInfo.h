@@ -47,6 +47,6 @@ class VANTREL_API CXMLAudioInfoImpl : public XMLWrapper<CAudioInfoImpl>
 public:
     explicit CXMLAudioInfoImpl(CAudioInfoImpl& object) : XMLWrapper(object, "audioInfo") {}
 
-    Status SaveMembers() override;
-    Status LoadMembers() override;
+    vantrel::Status SaveMembers() override;
+    vantrel::Status LoadMembers() override;
 };

@@ -2,6 +2,8 @@
 
 #include "storyboard/PersistParts.h"
 
+using namespace vantrel;
+
 Status CAudioObject::PersistXML(_xmlNode* node, bool save)
 {
     if (!node)

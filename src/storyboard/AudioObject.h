@@ -16,5 +16,5 @@ class VANTREL_API CAudioObject : public CAudioInfoImpl,
 public:
     CAudioObject() { m_whole = this; }
 
-    Status PersistXML(_xmlNode* node, bool save) override;
+    vantrel::Status PersistXML(_xmlNode* node, bool save) override;
 };

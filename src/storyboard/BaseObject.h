@@ -41,21 +41,21 @@ public:
 
     /// Stores a deep copy of `node` under the key in lower case. An empty key or one that can't name
     /// an element, or no node, gives `status::kBadArgument`.
-    Status SetMetaData(std::string key, _xmlNode* node);
+    vantrel::Status SetMetaData(std::string key, _xmlNode* node);
     /// Looks for the key as given, then in lower case. The subtree stays the object's. An unknown
     /// key gives `status::kNothingDone`; null or an empty key `status::kBadArgument`.
-    Status GetMetaData(std::string key, _xmlNode** out) const;
+    vantrel::Status GetMetaData(std::string key, _xmlNode** out) const;
 
     void SetClipType(ClipType type) { m_clipType = type; }
     ClipType GetClipType() const { return m_clipType; }
-    Status put_ID(long id);
+    vantrel::Status put_ID(long id);
     void SetSBD(CQZBaseSBD* sbd) { m_sbd = sbd; }
 
     /// Forgets the thumbnail: there is no store of thumbnails to load it from. An `id` below 1
     /// gives `status::kNothingDone`.
-    Status LoadThumbnail(long id);
+    vantrel::Status LoadThumbnail(long id);
     /// Stores nothing. Without a thumbnail, or with an `id` below 1, gives `status::kNothingDone`.
-    Status SaveThumbnail(long id);
+    vantrel::Status SaveThumbnail(long id);
 
     long m_id = 0;                 ///< from the storyboard's counter
     long m_panelId = -1;           ///< panel number
@@ -79,6 +79,6 @@ class VANTREL_API CXMLBaseObjectImpl : public XMLWrapper<CBaseObjectImpl>
 public:
     explicit CXMLBaseObjectImpl(CBaseObjectImpl& object) : XMLWrapper(object, "baseObject") {}
 
-    Status SaveMembers() override;
-    Status LoadMembers() override;
+    vantrel::Status SaveMembers() override;
+    vantrel::Status LoadMembers() override;
 };

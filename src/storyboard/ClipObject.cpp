@@ -4,6 +4,7 @@
 #include "storyboard/PersistParts.h"
 
 using vantrel::PersistPart;
+using namespace vantrel;
 
 CClipObject::CClipObject()
 {

@@ -21,11 +21,11 @@ public:
     CClipObject();
     explicit CClipObject(vantrel::ForReading);
 
-    Status PersistXML(_xmlNode* node, bool save) override;
+    vantrel::Status PersistXML(_xmlNode* node, bool save) override;
 
     /// Both tell the parts too.
     void SetSBD(CQZBaseSBD* sbd);
-    Status put_ParentProduction(CQZBaseSBD* sbd);
+    vantrel::Status put_ParentProduction(CQZBaseSBD* sbd);
     using CParentObjectImpl::GetSBD;
 
 private:

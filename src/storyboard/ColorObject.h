@@ -17,11 +17,11 @@ public:
     CColorObject();
     explicit CColorObject(vantrel::ForReading);
 
-    Status PersistXML(_xmlNode* node, bool save) override;
+    vantrel::Status PersistXML(_xmlNode* node, bool save) override;
 
     /// Both tell the parts too.
     void SetSBD(CQZBaseSBD* sbd);
-    Status put_ParentProduction(CQZBaseSBD* sbd);
+    vantrel::Status put_ParentProduction(CQZBaseSBD* sbd);
 
     unsigned long m_color = 0; ///< red in the lowest byte
     bool m_isGap = false;

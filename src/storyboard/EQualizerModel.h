@@ -23,7 +23,7 @@ public:
     /// Null gives `status::kFailure`. Reading gives `status::kNothingDone` when the number of bands
     /// or the length is missing, and `status::kBadArgument`, without any arrays, for a number of
     /// bands that is negative or above 65,536.
-    Status PersistToXML(_xmlNode* node, bool save);
+    vantrel::Status PersistToXML(_xmlNode* node, bool save);
 
     bool m_isValid; ///< the model was read, and every band made sense
     long m_bands;
@@ -34,8 +34,8 @@ public:
     std::unique_ptr<float[]> m_values;
 
 private:
-    Status Save(_xmlNode* node) const;
-    Status Load(_xmlNode* node);
+    vantrel::Status Save(_xmlNode* node) const;
+    vantrel::Status Load(_xmlNode* node);
     void LoadBands(const _xmlNode* node);
     void LoadBand(const _xmlNode* band, long slot);
 };

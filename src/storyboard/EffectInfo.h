@@ -24,14 +24,14 @@ public:
     CEffectInfoImpl(const CEffectInfoImpl&) = delete;
     CEffectInfoImpl& operator=(const CEffectInfoImpl&) = delete;
 
-    Status PutEffectID(long id);
+    vantrel::Status PutEffectID(long id);
     /// Makes `node` the effect's data. It stays the caller's and must outlive its use; the flag has
     /// no effect.
-    Status PutData(_xmlNode* node, bool);
+    vantrel::Status PutData(_xmlNode* node, bool);
     /// Forgets the thumbnail: there is no store of thumbnails to load it from.
-    Status LoadThumbnail(long id);
+    vantrel::Status LoadThumbnail(long id);
     /// Stores nothing.
-    Status SaveThumbnail(long id);
+    vantrel::Status SaveThumbnail(long id);
 
     /// The complete object is a `CMotionObject`.
     bool IsMotion() const { return m_isMotion; }
@@ -64,6 +64,6 @@ class VANTREL_API CXMLEffectInfoImpl : public XMLWrapper<CEffectInfoImpl>
 public:
     explicit CXMLEffectInfoImpl(CEffectInfoImpl& object) : XMLWrapper(object, "effectInfo") {}
 
-    Status SaveMembers() override;
-    Status LoadMembers() override;
+    vantrel::Status SaveMembers() override;
+    vantrel::Status LoadMembers() override;
 };

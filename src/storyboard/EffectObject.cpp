@@ -3,6 +3,8 @@
 #include "storyboard/PersistParts.h"
 #include "storyboard/SourceFileObject.h"
 
+using namespace vantrel;
+
 Status CEffectObject::put_ID(long id)
 {
     (void)CSubObjectImpl::put_ID(id); // neither can fail

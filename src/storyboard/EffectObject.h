@@ -15,7 +15,7 @@ public:
     CEffectObject() { m_whole = this; }
 
     /// Sets the object's and the effect's id.
-    Status put_ID(long id);
+    vantrel::Status put_ID(long id);
 
-    Status PersistXML(_xmlNode* node, bool save) override;
+    vantrel::Status PersistXML(_xmlNode* node, bool save) override;
 };

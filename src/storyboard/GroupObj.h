@@ -11,11 +11,12 @@ class VANTREL_API CGroupObject : public CPersistObject
 {
 public:
     /// Copies the group's data out. Any argument may be null. Always `status::kOk`.
-    Status GetGroupInfo(long* id, long* start, long* end, std::string* name,
-                        std::string* description) const;
-    Status SetGroupInfo(long id, long start, long end, std::string name, std::string description);
+    vantrel::Status GetGroupInfo(long* id, long* start, long* end, std::string* name,
+                                 std::string* description) const;
+    vantrel::Status SetGroupInfo(long id, long start, long end, std::string name,
+                                 std::string description);
 
-    Status PersistXML(_xmlNode* node, bool save) override;
+    vantrel::Status PersistXML(_xmlNode* node, bool save) override;
 
     long m_id = 0;
     long m_start = 0; ///< panel number

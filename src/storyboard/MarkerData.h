@@ -53,11 +53,11 @@ public:
     /// there already is not asked.
     tagMarker* MarkerAddToList(double time, eMarkerType type, long id, tagENM_MARKER_STATE state);
     /// The same, but an `id` above 0 that is there already gives `status::kNothingDone`.
-    Status MarkerAdd(double time, eMarkerType type, long id, tagENM_MARKER_STATE state);
+    vantrel::Status MarkerAdd(double time, eMarkerType type, long id, tagENM_MARKER_STATE state);
     /// Gives `status::kNothingDone` for an unknown id.
-    Status MarkerRemove(long id);
+    vantrel::Status MarkerRemove(long id);
     /// Releases all markers and forgets the timing. `Clear` gives `status::kOk`.
-    Status Clear();
+    vantrel::Status Clear();
     void ClearAll();
     /// @}
     /// @name One marker
@@ -67,10 +67,10 @@ public:
     long LookupIndex(long id) const;
     /// The record, or null.
     tagMarker* FindItemByID(long id);
-    Status MarkerGetByID(long id, tagMarker* out) const;
-    Status SetState(long id, tagENM_MARKER_STATE state);
-    Status SetType(long id, eMarkerType type);
-    Status SetTime(long id, double time);
+    vantrel::Status MarkerGetByID(long id, tagMarker* out) const;
+    vantrel::Status SetState(long id, tagENM_MARKER_STATE state);
+    vantrel::Status SetType(long id, eMarkerType type);
+    vantrel::Status SetTime(long id, double time);
     /// @}
     /// @name The working list
     /// @{
@@ -88,12 +88,12 @@ public:
     /// @name Persistence
     /// @{
     /// Adds "markers" to `node`, or gives `status::kNothingDone` when there are none.
-    Status SaveMarkersXML(_xmlNode* node) const;
+    vantrel::Status SaveMarkersXML(_xmlNode* node) const;
     /// Replaces the markers with those of "markers", when `node` has it. The counter behind
     /// `GenerateID` rises to the ids that are read.
-    Status LoadMarkersXML(_xmlNode* node);
+    vantrel::Status LoadMarkersXML(_xmlNode* node);
     /// As `XMLHelpers<void>::LoadAttributes`.
-    Status LoadAttributes(_xmlNode* node, std::map<std::string, std::string>& attributes);
+    vantrel::Status LoadAttributes(_xmlNode* node, std::map<std::string, std::string>& attributes);
     /// @}
 
     static long ms_lBaseID; ///< the last generated id; starts at 300

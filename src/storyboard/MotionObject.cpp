@@ -5,6 +5,7 @@
 #include "storyboard/SourceFileObject.h"
 
 using vantrel::PersistPart;
+using namespace vantrel;
 
 CMotionObject::CMotionObject()
 {

@@ -21,9 +21,9 @@ class VANTREL_API CMotionObject : public CParentObjectImpl,
 public:
     CMotionObject();
 
-    Status PersistXML(_xmlNode* node, bool save) override;
+    vantrel::Status PersistXML(_xmlNode* node, bool save) override;
 
     /// Tells the parts too.
-    Status put_ParentProduction(CQZBaseSBD* sbd);
+    vantrel::Status put_ParentProduction(CQZBaseSBD* sbd);
     using CParentObjectImpl::GetSBD;
 };

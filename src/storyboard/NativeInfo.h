@@ -38,6 +38,6 @@ class VANTREL_API CXMLNativeInfoImpl : public XMLWrapper<CNativeInfoImpl>
 public:
     explicit CXMLNativeInfoImpl(CNativeInfoImpl& object) : XMLWrapper(object, "nativeinfo") {}
 
-    Status SaveMembers() override;
-    Status LoadMembers() override;
+    vantrel::Status SaveMembers() override;
+    vantrel::Status LoadMembers() override;
 };

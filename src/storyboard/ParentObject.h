@@ -69,6 +69,6 @@ class VANTREL_API CXMLParentObjectImpl : public XMLWrapper<CParentObjectImpl>
 public:
     explicit CXMLParentObjectImpl(CParentObjectImpl& object) : XMLWrapper(object, "parentObject") {}
 
-    Status SaveMembers() override;
-    Status LoadMembers() override;
+    vantrel::Status SaveMembers() override;
+    vantrel::Status LoadMembers() override;
 };

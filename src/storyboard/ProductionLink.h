@@ -13,19 +13,19 @@ public:
     CProductionLink(const CProductionLink&) = delete;
     CProductionLink& operator=(const CProductionLink&) = delete;
 
-    Status put_ParentProduction(CQZBaseSBD* sbd)
+    vantrel::Status put_ParentProduction(CQZBaseSBD* sbd)
     {
         m_parentProduction = sbd;
-        return status::kOk;
+        return vantrel::status::kOk;
     }
 
     /// Null, or no storyboard given yet, is `status::kNullPointer` and leaves `out` alone.
-    Status get_ParentProduction(CQZBaseSBD** out) const
+    vantrel::Status get_ParentProduction(CQZBaseSBD** out) const
     {
         if (!out || !m_parentProduction)
-            return status::kNullPointer;
+            return vantrel::status::kNullPointer;
         *out = m_parentProduction;
-        return status::kOk;
+        return vantrel::status::kOk;
     }
 
 protected:

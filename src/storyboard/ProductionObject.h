@@ -22,23 +22,23 @@ public:
     CProductionObject();
     ~CProductionObject() override;
 
-    Status PersistXML(_xmlNode* node, bool save) override;
+    vantrel::Status PersistXML(_xmlNode* node, bool save) override;
 
     CQZBaseSBD* GetSBD() const { return m_sbd; }
     void SetSBD(CQZBaseSBD* sbd);
-    Status put_ID(long id);
+    vantrel::Status put_ID(long id);
 
     /// The duration of the time line: that of the clips less that of the transitions, and never
     /// below 0.0. Null gives `status::kNullPointer`.
-    Status get_Duration(double* out) const;
-    Status ComputeDuration(double* out) const;
+    vantrel::Status get_Duration(double* out) const;
+    vantrel::Status ComputeDuration(double* out) const;
 
     /// Always true: the library bears a watermark where a file asks for it.
     bool UseWatermark() const { return true; }
 
     /// As those of `CBaseObjectImpl`.
-    Status SetMetaData(std::string key, _xmlNode* node);
-    Status GetMetaData(std::string key, _xmlNode** out) const;
+    vantrel::Status SetMetaData(std::string key, _xmlNode* node);
+    vantrel::Status GetMetaData(std::string key, _xmlNode** out) const;
 
     CQZBaseSBD* m_sbd = nullptr; ///< the storyboard; not owned
     long m_id = 0;

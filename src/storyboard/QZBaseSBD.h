@@ -37,34 +37,34 @@ public:
     /// Writes or reads the subtree of the storyboard. A read makes a new production in any case,
     /// lays the panels, groups and sections that it finds over those that are there, and never
     /// reports what is missing.
-    Status PersistXML(_xmlNode* node, bool save) override;
+    vantrel::Status PersistXML(_xmlNode* node, bool save) override;
     ~CQZBaseSBD() override;
     /// Releases the production, panels, groups and sections. Always `status::kOk`.
-    virtual Status FinalRelease();
+    virtual vantrel::Status FinalRelease();
 
     /// @name Productions
     /// @{
     /// Closes, releases what there is, and makes an empty production. Always `status::kOk`.
-    Status NewProduction();
+    vantrel::Status NewProduction();
     /// Resets counters and held text; the objects stay. Always `status::kOk`.
-    Status CloseProduction();
+    vantrel::Status CloseProduction();
     /// Closes and reads. Null gives `status::kBadArgument` and changes nothing.
-    Status LoadProductionFromXML(_xmlNode* node);
+    vantrel::Status LoadProductionFromXML(_xmlNode* node);
     /// Writes without the working path, which comes back afterwards. Null gives
     /// `status::kBadArgument`.
-    Status SaveProductionToXML(_xmlNode* node);
+    vantrel::Status SaveProductionToXML(_xmlNode* node);
     /// The production stays the storyboard's. Null gives `status::kBadArgument`, and a storyboard
     /// without a production `status::kNullPointer`.
-    Status GetProductionObj(CProductionObject** out) const;
+    vantrel::Status GetProductionObj(CProductionObject** out) const;
     /// Null gives `status::kBadArgument`.
-    Status get_Version(std::string* out) const;
-    Status put_Version(std::string value);
+    vantrel::Status get_Version(std::string* out) const;
+    vantrel::Status put_Version(std::string value);
     /// @}
     /// @name Panels, groups and sections
     /// @{
     /// The panel of a key, which stays the storyboard's. Gives `status::kNothingDone`, and leaves
     /// `out` alone, when there is none; null gives `status::kBadArgument`.
-    Status GetPanelBaseObject(long panel, CBaseObjectImpl** out) const;
+    vantrel::Status GetPanelBaseObject(long panel, CBaseObjectImpl** out) const;
     /// The highest key plus 1, or the highest end of a group if that is larger.
     long CalculatePanelNumber() const;
     /// The durations of the clips less those of the transitions, and never below 0.0.
@@ -74,13 +74,13 @@ public:
     CClipObject* AddClipPanel(long key);
     CTransitionObject* AddTransition(long key);
     /// Releases a panel. Gives `status::kNothingDone` when there is none of that key.
-    Status RemovePanel(long key);
+    vantrel::Status RemovePanel(long key);
     /// Makes a group, in the place of one that is there. It stays the storyboard's.
     CGroupObject* AddGroup(long key);
     /// Adds a marker section, or changes the end of the one that starts there.
-    Status AddSection(long startID, long endID);
+    vantrel::Status AddSection(long startID, long endID);
     /// Writes "MarkerSections" under `parent`. Gives `status::kNothingDone` when there are none.
-    Status SaveSectionsXML(_xmlNode* parent) const;
+    vantrel::Status SaveSectionsXML(_xmlNode* parent) const;
     /// @}
     /// The next object id: the only source of ids inside a storyboard.
     long NextID();

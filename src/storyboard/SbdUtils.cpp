@@ -8,6 +8,7 @@
 #include <utility>
 
 using std::string;
+using namespace vantrel;
 
 namespace {
 

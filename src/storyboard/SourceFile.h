@@ -23,7 +23,7 @@ public:
     CSourceFileImpl& operator=(const CSourceFileImpl&) = delete;
 
     /// Null gives `status::kNullPointer`.
-    Status get_FileName(std::string* out) const;
+    vantrel::Status get_FileName(std::string* out) const;
 
     /// Makes a file name from a project a path of this machine: doubled backslashes become single
     /// ones, except a pair in front and behind "vob:", and `Utils::ResolveFilePath` does the rest.
@@ -63,6 +63,6 @@ class VANTREL_API CXMLSourceFileImpl : public XMLWrapper<CSourceFileImpl>
 public:
     explicit CXMLSourceFileImpl(CSourceFileImpl& object) : XMLWrapper(object, "sourceFile") {}
 
-    Status SaveMembers() override;
-    Status LoadMembers() override;
+    vantrel::Status SaveMembers() override;
+    vantrel::Status LoadMembers() override;
 };

@@ -10,5 +10,5 @@ class VANTREL_API CSourceFileObject : public CSourceFileImpl,
                                       public CProductionLink
 {
 public:
-    Status PersistXML(_xmlNode* node, bool save) override;
+    vantrel::Status PersistXML(_xmlNode* node, bool save) override;
 };

@@ -15,9 +15,9 @@ public:
     CSubObjectImpl& operator=(const CSubObjectImpl&) = delete;
     virtual ~CSubObjectImpl() = default;
 
-    Status put_ID(long id);
-    Status put_ObjectType(short type);
-    Status put_Parent(void* parent);
+    vantrel::Status put_ID(long id);
+    vantrel::Status put_ObjectType(short type);
+    vantrel::Status put_Parent(void* parent);
 
     long m_id = -1;
     std::int16_t m_objectType = 0; ///< the application's kind of object
@@ -34,6 +34,6 @@ class VANTREL_API CXMLSubObjectImpl : public XMLWrapper<CSubObjectImpl>
 public:
     explicit CXMLSubObjectImpl(CSubObjectImpl& object) : XMLWrapper(object, "subObject") {}
 
-    Status SaveMembers() override;
-    Status LoadMembers() override;
+    vantrel::Status SaveMembers() override;
+    vantrel::Status LoadMembers() override;
 };

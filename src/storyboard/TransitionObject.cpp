@@ -4,6 +4,7 @@
 #include "xml/XmlValue.h"
 
 using vantrel::PersistPart;
+using namespace vantrel;
 
 Status CTransitionObject::PersistXML(_xmlNode* node, bool save)
 {

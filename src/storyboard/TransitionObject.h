@@ -15,7 +15,7 @@ public:
     CTransitionObject() { m_whole = this; }
     explicit CTransitionObject(vantrel::ForReading tag) : CBaseObjectImpl(tag) { m_whole = this; }
 
-    Status PersistXML(_xmlNode* node, bool save) override;
+    vantrel::Status PersistXML(_xmlNode* node, bool save) override;
 
 private:
     void Save(_xmlNode* node);

@@ -24,13 +24,13 @@ public:
     bool exists() const { return m_effectInfo != nullptr; }
 
     /// `status::kNothingDone` when the handle has a target already.
-    Status Create();
-    Status Delete();
-    Status Attach();
+    vantrel::Status Create();
+    vantrel::Status Delete();
+    vantrel::Status Attach();
 
     /// Gives the handle its target, which stays its owner's and has to outlive it; null takes it
     /// away.
-    Status Attach(CEffectInfoImpl* effect);
+    vantrel::Status Attach(CEffectInfoImpl* effect);
     /// @}
 
     /// @name Data
@@ -41,11 +41,11 @@ public:
     _xmlNode* getXMLPlugInData() const;
 
     /// Makes a copy of `node` the effect's data. `status::kUnexpected` without a target.
-    Status setXMLData(_xmlNode* node);
+    vantrel::Status setXMLData(_xmlNode* node);
 
     /// Puts a copy of `node` in place of "plugin_data"; null only takes that out.
     /// `status::kNotAvailable` when the effect has no data.
-    Status setXMLPlugInData(_xmlNode* node);
+    vantrel::Status setXMLPlugInData(_xmlNode* node);
     /// @}
 
     /// @name Pose
@@ -55,57 +55,57 @@ public:
     /// Reads any key. Without such a key translation and rotation are 0, scaling is 1 and handles
     /// fail. `status::kUnexpected` without a target; an effect without data gives 0 and touches
     /// nothing.
-    Status get3DKeyFrame(unsigned long mask, double time, KVC_KEYFRAME_TYPE type, float* x,
-                         float* y, float* z, unsigned long* caps) const;
-    Status getTranslation(float* x, float* y, float* z) const;
-    Status getRotation(float* x, float* y, float* z) const;
-    Status getScaling(float* x, float* y, float* z) const;
-    Status getHandle(float* x, float* y, float* z) const;
+    vantrel::Status get3DKeyFrame(unsigned long mask, double time, KVC_KEYFRAME_TYPE type, float* x,
+                                  float* y, float* z, unsigned long* caps) const;
+    vantrel::Status getTranslation(float* x, float* y, float* z) const;
+    vantrel::Status getRotation(float* x, float* y, float* z) const;
+    vantrel::Status getScaling(float* x, float* y, float* z) const;
+    vantrel::Status getHandle(float* x, float* y, float* z) const;
 
     /// A key that is there keeps its `caps`, a new one allows all axes. `status::kNotAvailable`
     /// when the effect has no data.
-    Status setTranslation(float x, float y, float z);
-    Status setRotation(float x, float y, float z);
-    Status setScaling(float x, float y, float z);
-    Status setHandle(float x, float y, float z);
+    vantrel::Status setTranslation(float x, float y, float z);
+    vantrel::Status setRotation(float x, float y, float z);
+    vantrel::Status setScaling(float x, float y, float z);
+    vantrel::Status setHandle(float x, float y, float z);
     /// @}
 
     /// @name Effect
     /// @{
-    Status getID(long* out) const;
+    vantrel::Status getID(long* out) const;
     long getGroupID() const; ///< always -1
-    Status setGroupID(long id);
-    Status getAlphaMask(std::string* out) const; ///< always `status::kNothingDone`
+    vantrel::Status setGroupID(long id);
+    vantrel::Status getAlphaMask(std::string* out) const; ///< always `status::kNothingDone`
     /// The file of the alpha mask; an empty path takes it away.
-    Status setAlphaMask(std::string path);
-    Status setMaskSize(double width, double height);
-    Status getModelRect(std::vector<FPoint>& corners) const;
+    vantrel::Status setAlphaMask(std::string path);
+    vantrel::Status setMaskSize(double width, double height);
+    vantrel::Status getModelRect(std::vector<FPoint>& corners) const;
     /// Width over height, always 16/9.
-    Status getProductionAspectRatio(double* out) const;
+    vantrel::Status getProductionAspectRatio(double* out) const;
     /// @}
 
     /// @name Place and source
     /// Of the complete object, with `status::kNothingDone` when that has no place or no source.
     /// @{
-    Status getStartOffset(double* out) const;
-    Status setStartOffset(double seconds);
-    Status getEndOffset(double* out) const;
-    Status setEndOffset(double seconds);
-    Status getSource(std::string* out) const;
-    Status setSource(std::string path);
-    Status getSourceRotation(long* out) const;
-    Status setSourceRotation(long rotation);
-    Status getInPoint(double* out) const;
-    Status setInPoint(double seconds);
-    Status getOutPoint(double* out) const;
-    Status setOutPoint(double seconds);
+    vantrel::Status getStartOffset(double* out) const;
+    vantrel::Status setStartOffset(double seconds);
+    vantrel::Status getEndOffset(double* out) const;
+    vantrel::Status setEndOffset(double seconds);
+    vantrel::Status getSource(std::string* out) const;
+    vantrel::Status setSource(std::string path);
+    vantrel::Status getSourceRotation(long* out) const;
+    vantrel::Status setSourceRotation(long rotation);
+    vantrel::Status getInPoint(double* out) const;
+    vantrel::Status setInPoint(double seconds);
+    vantrel::Status getOutPoint(double* out) const;
+    vantrel::Status setOutPoint(double seconds);
     /// `status::kNullPointer` for a null `out` or without a target; otherwise 0, with `out`
     /// untouched.
-    Status GetSourceAspect(double* out) const;
+    vantrel::Status GetSourceAspect(double* out) const;
     /// @}
 
 private:
-    Status set3DKeyFrame(unsigned long mask, float x, float y, float z);
+    vantrel::Status set3DKeyFrame(unsigned long mask, float x, float y, float z);
 
     CEffectInfoImpl* m_effectInfo = nullptr; ///< not owned
 };

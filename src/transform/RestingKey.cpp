@@ -2,6 +2,8 @@
 
 #include "transform/VCPTransformImpl.h"
 
+using namespace vantrel;
+
 Status vantrel::GetKeyOrRest(const CVCPTransformImpl& transform, unsigned long mask, double time,
                              KVC_KEYFRAME_TYPE type, float* x, float* y, float* z,
                              unsigned long* caps)

@@ -8,6 +8,8 @@
 #include <limits>
 #include <utility>
 
+using namespace vantrel;
+
 namespace {
 
 constexpr double kSameTime = 0.001; // seconds or fraction: closer times are one to `MoveKey`

@@ -60,28 +60,29 @@ public:
     /// @name Keys
     /// @{
     /// Places a key; a key of exactly that time is replaced.
-    Status SetValue(double time, KVC_KEYFRAME_TYPE type, T value, unsigned long caps);
+    vantrel::Status SetValue(double time, KVC_KEYFRAME_TYPE type, T value, unsigned long caps);
 
     /// Copies the key of exactly that time. `value` is required, `caps` may be null. An empty map
     /// gives `status::kBadArgument`, no key of that time `status::kNothingDone`.
-    Status GetValue(double time, KVC_KEYFRAME_TYPE type, T* value, unsigned long* caps) const;
+    vantrel::Status GetValue(double time, KVC_KEYFRAME_TYPE type, T* value,
+                             unsigned long* caps) const;
 
     /// Moves a key to another time, replacing one that stands there. Times closer than 0.001 count
     /// as the same. `status::kNothingDone` when there is no key at exactly `oldTime`.
-    Status MoveKey(KVC_KEYFRAME_TYPE type, double oldTime, double newTime);
+    vantrel::Status MoveKey(KVC_KEYFRAME_TYPE type, double oldTime, double newTime);
 
     /// Removes the key of exactly that time; `status::kNothingDone` when there is none.
-    Status DeleteKey(double time, KVC_KEYFRAME_TYPE type);
+    vantrel::Status DeleteKey(double time, KVC_KEYFRAME_TYPE type);
 
     /// Clears each map whose bit is set.
-    Status DeleteAllKeys(KVC_KEYFRAME_TYPE mask);
+    vantrel::Status DeleteAllKeys(KVC_KEYFRAME_TYPE mask);
 
     /// The number of keys in all three maps.
-    Status GetKeyCount(int* count) const;
+    vantrel::Status GetKeyCount(int* count) const;
 
     /// Fills both arrays, which have room for all keys: those of the start map, then of the
     /// percentage map, then of the end map, each in ascending order.
-    Status GetAllKeyTimes(double* times, KVC_KEYFRAME_TYPE* types) const;
+    vantrel::Status GetAllKeyTimes(double* times, KVC_KEYFRAME_TYPE* types) const;
 
     bool HasKeys() const;
 
@@ -94,21 +95,21 @@ public:
     /// start, end, percentage, and between the maps a straight blend of the nearest keys on either
     /// side. `value` is untouched on failure: `status::kFailure` without keys, and
     /// `status::kBadArgument` for a time that is no number.
-    Status GetInterpolatedValue(double time, T* value) const;
+    vantrel::Status GetInterpolatedValue(double time, T* value) const;
 
     /// @name File form
     /// @{
     /// Replaces the track's element under `parent`; a track without keys leaves none. An editing
     /// mode and a preset that a "Crop" child of `parent` holds are copied into the element.
-    Status SaveXML(_xmlNode* parent) const;
+    vantrel::Status SaveXML(_xmlNode* parent) const;
 
     /// Adds the keys of the track's element under `parent`. A key whose time is taken is not read.
-    Status LoadXML(_xmlNode* parent);
+    vantrel::Status LoadXML(_xmlNode* parent);
     /// @}
 
 private:
-    Status InterpolateInMap(double time, T* value, const Map& keys) const;
-    Status InterpolateBetweenMaps(double time, T* value) const;
+    vantrel::Status InterpolateInMap(double time, T* value, const Map& keys) const;
+    vantrel::Status InterpolateBetweenMaps(double time, T* value) const;
     double FractionAt(double time) const;
 
     Map m_startOffsetKeys;
@@ -122,16 +123,16 @@ private:
 class VANTREL_API CXmlSaveD3DXVECTOR3
 {
 public:
-    Status Save(_xmlNode* parent, D3DXVECTOR3 value) const;
-    Status Load(_xmlNode* parent, D3DXVECTOR3& value) const;
+    vantrel::Status Save(_xmlNode* parent, D3DXVECTOR3 value) const;
+    vantrel::Status Load(_xmlNode* parent, D3DXVECTOR3& value) const;
 };
 
 /// Writes and reads an `unsigned long` as the element "Value".
 class VANTREL_API CXmlSaveDWORD
 {
 public:
-    Status Save(_xmlNode* parent, unsigned long value) const;
-    Status Load(_xmlNode* parent, unsigned long& value) const;
+    vantrel::Status Save(_xmlNode* parent, unsigned long value) const;
+    vantrel::Status Load(_xmlNode* parent, unsigned long& value) const;
 };
 
 namespace vantrel {

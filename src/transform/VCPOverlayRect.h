@@ -13,12 +13,12 @@ public:
     /// Takes a frame of `width` by `height` pixels and copies of the two matrices. A null matrix
     /// gives `status::kNullPointer` and changes nothing.
     // NOLINTNEXTLINE(bugprone-virtual-near-miss): not meant to override `SBInit`, which it calls
-    Status SInit(int width, int height, D3DXMATRIX* first, D3DXMATRIX* second);
+    vantrel::Status SInit(int width, int height, D3DXMATRIX* first, D3DXMATRIX* second);
 
     /// Reads the transform and the text of an effect's data, brings the rectangle into the
     /// proportions of the frame, and measures the picture. `status::kNothingDone` without "html":
     /// the rectangle then stays as it is.
-    Status LoadXML(_xmlNode* node);
+    vantrel::Status LoadXML(_xmlNode* node);
 
     /// As the transform's: a rectangle set anew is not in the proportions of the frame yet.
     void SetBoundingRect(float left, float top, float right, float bottom);
@@ -26,7 +26,7 @@ public:
     /// The picture: 32 bits a pixel, all zero at first. It is made by the first call after a load,
     /// and lives until the next. An empty picture gives null. Each output may be null, and without
     /// `pixels` none is made.
-    Status GetPicture(char** pixels, int* width, int* height, int* rowBytes);
+    vantrel::Status GetPicture(char** pixels, int* width, int* height, int* rowBytes);
 
 private:
     void MeasurePicture();

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+using namespace vantrel;
+
 COverlaysSoftwareBase::COverlaysSoftwareBase()
 {
     const D3DXVECTOR3 zero(0.0F, 0.0F, 0.0F);

@@ -20,7 +20,7 @@ public:
 
     /// Sets frame and viewport to one size and takes the matrices, which have to outlive the overlay
     /// and stay the caller's. A null matrix gives `status::kNullPointer` and changes nothing.
-    virtual Status SBInit(int width, int height, D3DXMATRIX* first, D3DXMATRIX* second);
+    virtual vantrel::Status SBInit(int width, int height, D3DXMATRIX* first, D3DXMATRIX* second);
 
 protected:
     struct FreeMemory

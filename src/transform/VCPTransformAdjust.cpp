@@ -5,6 +5,7 @@
 #include <algorithm>
 
 using vantrel::VectorTrack;
+using namespace vantrel;
 
 namespace {
 

@@ -1,5 +1,5 @@
+#include "core/Matrix.h"
 #include "core/Property.h"
-#include "menu/GeometryUtils.h"
 #include "transform/VCPTransformImpl.h"
 
 #include <algorithm>
@@ -7,6 +7,7 @@
 #include <limits>
 
 using vantrel::VectorTrack;
+using namespace vantrel;
 
 namespace {
 

@@ -1,12 +1,13 @@
 #include "transform/VCPTransformImpl.h"
 
+#include "core/Matrix.h"
 #include "core/Property.h"
-#include "menu/GeometryUtils.h"
 #include "transform/VCPTransformRows.h"
 
 #include <algorithm>
 
 using vantrel::Give;
+using namespace vantrel;
 
 namespace {
 

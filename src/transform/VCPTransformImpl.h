@@ -51,55 +51,55 @@ public:
     const vantrel::VectorTrack* GetKeyframes(unsigned long mask) const;
 
     /// Places a key, or replaces the key of exactly that `time`.
-    Status Set3DKeyframe(unsigned long mask, double time, KVC_KEYFRAME_TYPE type, float x, float y,
-                         float z, unsigned long caps);
+    vantrel::Status Set3DKeyframe(unsigned long mask, double time, KVC_KEYFRAME_TYPE type, float x,
+                                  float y, float z, unsigned long caps);
 
     /// Reads the key of exactly that `time`; `caps` may be null. Without such a key `x`, `y` and `z`
     /// take the values of `GetDefaultValues`, and the status is `status::kNothingDone`; an empty map
     /// gives `status::kBadArgument`.
-    Status Get3DKeyframe(unsigned long mask, double time, KVC_KEYFRAME_TYPE type, float* x,
-                         float* y, float* z, unsigned long* caps) const;
+    vantrel::Status Get3DKeyframe(unsigned long mask, double time, KVC_KEYFRAME_TYPE type, float* x,
+                                  float* y, float* z, unsigned long* caps) const;
 
-    Status Get3DKeyInterpolatedValue(unsigned long mask, double time, float* x, float* y,
-                                     float* z) const;
+    vantrel::Status Get3DKeyInterpolatedValue(unsigned long mask, double time, float* x, float* y,
+                                              float* z) const;
 
-    Status SetOpacityKey(double time, KVC_KEYFRAME_TYPE type, unsigned long value,
-                         unsigned long caps);
+    vantrel::Status SetOpacityKey(double time, KVC_KEYFRAME_TYPE type, unsigned long value,
+                                  unsigned long caps);
 
     /// Reads the opacity key of exactly that `time`; `caps` may be null. Gives
     /// `status::kNothingDone` when no key has that time, and leaves both outputs alone.
-    Status GetOpacityKey(double time, KVC_KEYFRAME_TYPE type, unsigned long* value,
-                         unsigned long* caps) const;
+    vantrel::Status GetOpacityKey(double time, KVC_KEYFRAME_TYPE type, unsigned long* value,
+                                  unsigned long* caps) const;
 
-    Status GetOpacityInterpolatedValue(double time, unsigned long* value) const;
+    vantrel::Status GetOpacityInterpolatedValue(double time, unsigned long* value) const;
 
     /// As the operations of the track, which may be the opacity track too.
-    Status GetKeyCount(unsigned long mask, int* count) const;
-    Status GetKeyTimes(unsigned long mask, double* times, KVC_KEYFRAME_TYPE* types) const;
-    Status MoveKey(unsigned long mask, KVC_KEYFRAME_TYPE type, double from, double to);
-    Status DeleteKey(unsigned long mask, double time, KVC_KEYFRAME_TYPE type);
+    vantrel::Status GetKeyCount(unsigned long mask, int* count) const;
+    vantrel::Status GetKeyTimes(unsigned long mask, double* times, KVC_KEYFRAME_TYPE* types) const;
+    vantrel::Status MoveKey(unsigned long mask, KVC_KEYFRAME_TYPE type, double from, double to);
+    vantrel::Status DeleteKey(unsigned long mask, double time, KVC_KEYFRAME_TYPE type);
 
     /// Forgets the adjustments first, as `Reset3DKeyframesDelta` does with any mask, and ends a
     /// scroll when the translation goes.
-    Status DeleteAllKeys(unsigned long mask, KVC_KEYFRAME_TYPE type);
+    vantrel::Status DeleteAllKeys(unsigned long mask, KVC_KEYFRAME_TYPE type);
 
     /// The clip's length in seconds, for all tracks.
-    Status SetDuration(double seconds);
+    vantrel::Status SetDuration(double seconds);
     /// @}
 
     /// @name Properties
     /// @{
-    Status GetIsSelectable(bool* out) const;
-    Status GetIsEditable(bool* out) const;
-    Status GetIsSelected(bool* out) const;
-    Status SetIsSelectable(bool value);
-    Status SetIsEditable(bool value);
-    Status SetIsSelected(bool value);
+    vantrel::Status GetIsSelectable(bool* out) const;
+    vantrel::Status GetIsEditable(bool* out) const;
+    vantrel::Status GetIsSelected(bool* out) const;
+    vantrel::Status SetIsSelectable(bool value);
+    vantrel::Status SetIsEditable(bool value);
+    vantrel::Status SetIsSelected(bool value);
 
     /// The capability bits within `mask`.
-    Status GetCaps(unsigned long mask, unsigned long* out) const;
+    vantrel::Status GetCaps(unsigned long mask, unsigned long* out) const;
     /// The bits within `mask` take those of `value`.
-    Status SetCaps(unsigned long mask, unsigned long value);
+    vantrel::Status SetCaps(unsigned long mask, unsigned long value);
 
     /// The capability bits of a track's axes; 0 for a mask without three components.
     void GetAdjustCaps(unsigned long mask, unsigned long* x, unsigned long* y,
@@ -109,20 +109,20 @@ public:
     void GetDefaultValues(unsigned long mask, float* x, float* y, float* z) const;
 
     /// The identifier of the path loaded into the keys of one type.
-    Status GetPathID(KVC_KEYFRAME_TYPE type, unsigned long* out) const;
+    vantrel::Status GetPathID(KVC_KEYFRAME_TYPE type, unsigned long* out) const;
 
     /// Shows the object turned by a quarter turn.
-    Status SetQuarterTurned(bool value);
+    vantrel::Status SetQuarterTurned(bool value);
     /// Leaves handles and translation out of the matrix.
-    Status SetPathSuspended(bool value);
+    vantrel::Status SetPathSuspended(bool value);
 
     /// Width over height of the frame. This and the next two give `status::kBadArgument` for a value
     /// that is not above 0.
-    Status SetAspectRatio(float ratio);
+    vantrel::Status SetAspectRatio(float ratio);
     /// Frames per second, for a scroll.
-    Status SetFrameRate(double framesPerSecond);
+    vantrel::Status SetFrameRate(double framesPerSecond);
     /// Pixels, for a scroll.
-    Status SetFrameSize(unsigned long width, unsigned long height);
+    vantrel::Status SetFrameSize(unsigned long width, unsigned long height);
     /// @}
 
     /// @name Rectangle
@@ -131,11 +131,11 @@ public:
     void SetBoundingRect(float left, float top, float right, float bottom);
 
     /// The corners left-top, left-bottom, right-bottom and right-top. Each may be null.
-    Status GetModelBoundingRect(D3DXVECTOR3* a, D3DXVECTOR3* b, D3DXVECTOR3* c,
-                                D3DXVECTOR3* d) const;
+    vantrel::Status GetModelBoundingRect(D3DXVECTOR3* a, D3DXVECTOR3* b, D3DXVECTOR3* c,
+                                         D3DXVECTOR3* d) const;
 
     /// The factors that bring a picture of `w` by `h` into a square.
-    Status GetAspectRatioScaling(float w, float h, float* x, float* y) const;
+    vantrel::Status GetAspectRatioScaling(float w, float h, float* x, float* y) const;
     /// @}
 
     /// @name Evaluation
@@ -143,21 +143,21 @@ public:
     /// Evaluates all tracks at `time` and rebuilds the world matrix: a point is shifted by the
     /// handles, scaled, turned and translated. A track that has no value there counts as resting.
     /// The second argument has no effect.
-    Status FrameMove(double time, float);
+    vantrel::Status FrameMove(double time, float);
 
     /// The 4 by 4 matrix of the last `FrameMove`; the identity before the first.
-    Status GetWorldMatrix(D3DXMATRIX* out) const;
+    vantrel::Status GetWorldMatrix(D3DXMATRIX* out) const;
 
     /// A track's value in the last `FrameMove`.
-    Status GetLast3DValue(unsigned long mask, float* x, float* y, float* z) const;
-    Status GetLastOpacityValue(unsigned long* out) const;
+    vantrel::Status GetLast3DValue(unsigned long mask, float* x, float* y, float* z) const;
+    vantrel::Status GetLastOpacityValue(unsigned long* out) const;
 
     /// The span of one map of a track, where a negative time counts as 0; 0 to 0 without keys.
     void GetTimeInterval(KVC_KEYFRAME_TYPE type, unsigned long mask,
                          std::pair<double, double>& out) const;
 
     /// The time at which the object's entrance is over.
-    Status GetHoldTime(double* out) const;
+    vantrel::Status GetHoldTime(double* out) const;
 
     /// Stretches a scroll so that it runs at its speed whatever the distance: moves the second start
     /// key of handles and translation.
@@ -168,16 +168,17 @@ public:
     /// An adjustment shifts all keys of a track on the axes that each key's `caps` allow. What was
     /// asked for is summed up in the track's delta, which a path loaded later takes over.
     /// @{
-    Status Adjust3DKeyframes(unsigned long mask, float x, float y, float z);
+    vantrel::Status Adjust3DKeyframes(unsigned long mask, float x, float y, float z);
 
     /// `delta` is signed in two's complement.
-    Status AdjustOpacityKeyframes(unsigned long delta);
+    vantrel::Status AdjustOpacityKeyframes(unsigned long delta);
 
     /// With `onlyType`, shifts the keys of `type` alone and leaves the delta as it is. A track without
     /// keys gets its resting value as a start key at 0.0 first.
-    Status Adjust3DKeyframesIntl(unsigned long mask, float x, float y, float z, bool onlyType,
-                                 KVC_KEYFRAME_TYPE type);
-    Status AdjustOpacityKeyframesIntl(unsigned long delta, bool onlyType, KVC_KEYFRAME_TYPE type);
+    vantrel::Status Adjust3DKeyframesIntl(unsigned long mask, float x, float y, float z,
+                                          bool onlyType, KVC_KEYFRAME_TYPE type);
+    vantrel::Status AdjustOpacityKeyframesIntl(unsigned long delta, bool onlyType,
+                                               KVC_KEYFRAME_TYPE type);
 
     /// Adds to the delta of a track; nothing for a mask without three components.
     void Adjust3DKeyframesDelta(unsigned long mask, float x, float y, float z);
@@ -196,19 +197,19 @@ public:
     /// @{
     /// Adds the children. Of earlier ones only the tracks, "IsSelectable", "IsEditable" and "Caps"
     /// go; see `ReplaceXML`.
-    Status SaveXML(_xmlNode* node) const;
+    vantrel::Status SaveXML(_xmlNode* node) const;
 
     /// Writes into an element that holds a transform already: takes all its children out first, so
     /// that nothing stale is read back.
-    Status ReplaceXML(_xmlNode* node) const;
+    vantrel::Status ReplaceXML(_xmlNode* node) const;
 
     /// Adds the keys of `node` to those present, and takes the other values over.
-    Status LoadXML(_xmlNode* node);
+    vantrel::Status LoadXML(_xmlNode* node);
 
     /// Replaces the keys of one type in all tracks by those of `path`, and applies the adjustments
     /// made so far to them, so that a track without any key gets its resting one. A null `path` only
     /// removes the keys and ends a scroll.
-    Status LoadPath(KVC_KEYFRAME_TYPE type, _xmlNode* path);
+    vantrel::Status LoadPath(KVC_KEYFRAME_TYPE type, _xmlNode* path);
     /// @}
 
 protected:
@@ -257,7 +258,7 @@ private:
     static std::span<const XmlRow> XmlRows();
 
     template <class Self, class Operation>
-    static Status WithTrack(Self& self, unsigned long mask, Operation operation);
+    static vantrel::Status WithTrack(Self& self, unsigned long mask, Operation operation);
     template <class Operation>
     void ForEachTrack(Operation operation);
 

@@ -13,12 +13,12 @@ public:
     CPersistObject(const CPersistObject&) = delete;
     CPersistObject& operator=(const CPersistObject&) = delete;
 
-    virtual Status SaveXML(_xmlNode* node) { return PersistXML(node, true); }
-    virtual Status LoadXML(_xmlNode* node) { return PersistXML(node, false); }
+    virtual vantrel::Status SaveXML(_xmlNode* node) { return PersistXML(node, true); }
+    virtual vantrel::Status LoadXML(_xmlNode* node) { return PersistXML(node, false); }
 
     /// Writes the object as the content of `node`, or reads it from there: one function, so that
     /// the two orders can't part. Null gives `status::kBadArgument`.
-    virtual Status PersistXML(_xmlNode* node, bool save) = 0;
+    virtual vantrel::Status PersistXML(_xmlNode* node, bool save) = 0;
 
     virtual ~CPersistObject() = default;
 };

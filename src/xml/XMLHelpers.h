@@ -37,93 +37,103 @@ public:
     /// @{
     /// Adds an element. An empty `type` makes a bare container, without text whatever `value` says.
     /// `out` may be null, else it receives the element.
-    static Status SaveNode(_xmlNode* parent, std::string node, std::string name, std::string type,
-                           std::string value, _xmlNode** out);
+    static vantrel::Status SaveNode(_xmlNode* parent, std::string node, std::string name,
+                                    std::string type, std::string value, _xmlNode** out);
     /// `node` may be a path of names, separated by "/". `value` and `out` may be null; an element
     /// without a text leaves `value` alone.
-    static Status LoadNode(_xmlNode* parent, std::string node, std::string name, std::string* value,
-                           _xmlNode** out);
+    static vantrel::Status LoadNode(_xmlNode* parent, std::string node, std::string name,
+                                    std::string* value, _xmlNode** out);
     /// @}
     /// @name Elements with attributes
     /// @{
     /// Adds an element without text that has these attributes.
-    static Status SaveNode(_xmlNode* parent, std::string node, Attributes& attributes,
-                           _xmlNode** out);
+    static vantrel::Status SaveNode(_xmlNode* parent, std::string node, Attributes& attributes,
+                                    _xmlNode** out);
     /// Finds an element and fills the map as `LoadAttributes` does.
-    static Status LoadNode(_xmlNode* parent, std::string node, Attributes& attributes,
-                           _xmlNode** out);
+    static vantrel::Status LoadNode(_xmlNode* parent, std::string node, Attributes& attributes,
+                                    _xmlNode** out);
     /// Adds each entry as an attribute. A key that can't name one gives `status::kBadArgument`,
     /// before anything is added.
-    static Status SaveAttributes(_xmlNode* node, Attributes& attributes);
+    static vantrel::Status SaveAttributes(_xmlNode* node, Attributes& attributes);
     /// Gives each key of the map the text of that attribute, and the empty string to those that the
     /// element lacks.
-    static Status LoadAttributes(_xmlNode* node, Attributes& attributes);
+    static vantrel::Status LoadAttributes(_xmlNode* node, Attributes& attributes);
     /// @}
     /// @name Writing scalars
     /// @{
-    static Status SaveLongNode(_xmlNode* parent, std::string node, std::string name, long value);
-    static Status SaveULongNode(_xmlNode* parent, std::string node, std::string name,
-                                unsigned long value);
-    static Status SaveDoubleNode(_xmlNode* parent, std::string node, std::string name,
-                                 double value);
-    static Status SaveFloatNode(_xmlNode* parent, std::string node, std::string name, float value);
-    static Status SaveBoolNode(_xmlNode* parent, std::string node, std::string name, bool value);
-    static Status SaveStringNode(_xmlNode* parent, std::string node, std::string name,
-                                 std::string value);
-    static Status SaveInt2Node(_xmlNode* parent, std::string node, std::string name, short value);
-    static Status SaveUInt2Node(_xmlNode* parent, std::string node, std::string name,
-                                unsigned short value);
+    static vantrel::Status SaveLongNode(_xmlNode* parent, std::string node, std::string name,
+                                        long value);
+    static vantrel::Status SaveULongNode(_xmlNode* parent, std::string node, std::string name,
+                                         unsigned long value);
+    static vantrel::Status SaveDoubleNode(_xmlNode* parent, std::string node, std::string name,
+                                          double value);
+    static vantrel::Status SaveFloatNode(_xmlNode* parent, std::string node, std::string name,
+                                         float value);
+    static vantrel::Status SaveBoolNode(_xmlNode* parent, std::string node, std::string name,
+                                        bool value);
+    static vantrel::Status SaveStringNode(_xmlNode* parent, std::string node, std::string name,
+                                          std::string value);
+    static vantrel::Status SaveInt2Node(_xmlNode* parent, std::string node, std::string name,
+                                        short value);
+    static vantrel::Status SaveUInt2Node(_xmlNode* parent, std::string node, std::string name,
+                                         unsigned short value);
     /// "#" and six or more hexadecimal digits.
-    static Status SaveCOLORREFNode(_xmlNode* parent, std::string node, std::string name,
-                                   unsigned long value);
-    static Status SaveUUIDNode(_xmlNode* parent, std::string node, std::string name, _GUID value);
+    static vantrel::Status SaveCOLORREFNode(_xmlNode* parent, std::string node, std::string name,
+                                            unsigned long value);
+    static vantrel::Status SaveUUIDNode(_xmlNode* parent, std::string node, std::string name,
+                                        _GUID value);
     /// Two hexadecimal digits a byte.
-    static Status SaveBlobNode(_xmlNode* parent, std::string node, std::string name, char* data,
-                               unsigned long size);
+    static vantrel::Status SaveBlobNode(_xmlNode* parent, std::string node, std::string name,
+                                        char* data, unsigned long size);
     /// @}
     /// @name Reading scalars
     /// A null output gives `status::kBadArgument`.
     /// @{
-    static Status LoadLongNode(_xmlNode* parent, std::string node, std::string name, long* value);
-    static Status LoadULongNode(_xmlNode* parent, std::string node, std::string name,
-                                unsigned long* value);
-    static Status LoadDoubleNode(_xmlNode* parent, std::string node, std::string name,
-                                 double* value);
-    static Status LoadFloatNode(_xmlNode* parent, std::string node, std::string name, float& value);
-    static Status LoadBoolNode(_xmlNode* parent, std::string node, std::string name, bool* value);
-    static Status LoadStringNode(_xmlNode* parent, std::string node, std::string name,
-                                 std::string* value);
-    static Status LoadInt2Node(_xmlNode* parent, std::string node, std::string name, short* value);
-    static Status LoadUInt2Node(_xmlNode* parent, std::string node, std::string name,
-                                unsigned short& value);
+    static vantrel::Status LoadLongNode(_xmlNode* parent, std::string node, std::string name,
+                                        long* value);
+    static vantrel::Status LoadULongNode(_xmlNode* parent, std::string node, std::string name,
+                                         unsigned long* value);
+    static vantrel::Status LoadDoubleNode(_xmlNode* parent, std::string node, std::string name,
+                                          double* value);
+    static vantrel::Status LoadFloatNode(_xmlNode* parent, std::string node, std::string name,
+                                         float& value);
+    static vantrel::Status LoadBoolNode(_xmlNode* parent, std::string node, std::string name,
+                                        bool* value);
+    static vantrel::Status LoadStringNode(_xmlNode* parent, std::string node, std::string name,
+                                          std::string* value);
+    static vantrel::Status LoadInt2Node(_xmlNode* parent, std::string node, std::string name,
+                                        short* value);
+    static vantrel::Status LoadUInt2Node(_xmlNode* parent, std::string node, std::string name,
+                                         unsigned short& value);
     /// A text without "#" in front leaves `value` alone.
-    static Status LoadCOLORREFNode(_xmlNode* parent, std::string node, std::string name,
-                                   unsigned long& value);
+    static vantrel::Status LoadCOLORREFNode(_xmlNode* parent, std::string node, std::string name,
+                                            unsigned long& value);
     /// A text that is no identifier gives `status::kBadArgument` and leaves `value` alone.
-    static Status LoadUUIDNode(_xmlNode* parent, std::string node, std::string name, _GUID& value);
+    static vantrel::Status LoadUUIDNode(_xmlNode* parent, std::string node, std::string name,
+                                        _GUID& value);
     /// Fills at most `size` bytes of `data`, and `size` receives their number. A text that isn't
     /// made of pairs of digits gives `status::kBadArgument` and touches neither.
-    static Status LoadBlobNode(_xmlNode* parent, std::string node, std::string name, char* data,
-                               unsigned long& size);
+    static vantrel::Status LoadBlobNode(_xmlNode* parent, std::string node, std::string name,
+                                        char* data, unsigned long& size);
     /// @}
     /// @name Vectors
     /// @{
     /// Adds an element that always has "Name", with the Float children "x", "y" and "z".
-    static Status SaveD3DVECTOR3Node(_xmlNode* parent, std::string node, std::string name,
-                                     D3DXVECTOR3* value);
+    static vantrel::Status SaveD3DVECTOR3Node(_xmlNode* parent, std::string node, std::string name,
+                                              D3DXVECTOR3* value);
     /// A missing element gives `status::kFailure`; a missing component is 0.0.
-    static Status LoadD3DVECTOR3Node(_xmlNode* parent, std::string node, std::string name,
-                                     D3DXVECTOR3* value);
+    static vantrel::Status LoadD3DVECTOR3Node(_xmlNode* parent, std::string node, std::string name,
+                                              D3DXVECTOR3* value);
     /// @}
     /// @name Document and tree
     /// @{
     /// Adds a comment as the last child of `node`. A "--" in it is broken up.
-    static Status AppendComment(_xmlNode* node, std::string text);
+    static vantrel::Status AppendComment(_xmlNode* node, std::string text);
     /// Makes a document whose root "Root" declares the prefix "dt", when `*out` is null; it is the
     /// caller's. A document that is there stays as it is. Null gives `status::kBadArgument`.
-    static Status CreateDocument(_xmlDoc** out);
+    static vantrel::Status CreateDocument(_xmlDoc** out);
     /// Takes out and releases all child elements of that name. Gives `status::kNothingDone` when
     /// there are none, and for an empty name.
-    static Status RemoveNode(_xmlNode* parent, std::string name);
+    static vantrel::Status RemoveNode(_xmlNode* parent, std::string name);
     /// @}
 };

@@ -31,94 +31,95 @@ public:
 
     /// The whole object as one blob, for a `T` of plain bytes; any other gives
     /// `status::kNotAvailable`.
-    virtual Status SaveMembers();
-    virtual Status LoadMembers();
+    virtual vantrel::Status SaveMembers();
+    virtual vantrel::Status LoadMembers();
     virtual ~XMLWrapper() = default;
 
     /// Writes the members into a new sub-element of `node` or, with `direct`, into `node` itself.
     /// Null gives `status::kBadArgument`, else what `SaveMembers` gives.
-    Status SaveToXML(_xmlNode* node, bool direct);
+    vantrel::Status SaveToXML(_xmlNode* node, bool direct);
     /// Reads the members from the sub-element of `node`, which may be missing, or from `node`
     /// itself. Null gives `status::kBadArgument`, else what `LoadMembers` gives.
-    Status LoadFromXML(_xmlNode* node, bool direct);
+    vantrel::Status LoadFromXML(_xmlNode* node, bool direct);
 
     /// @name Members
     /// @{
-    Status SaveLongMember(std::string name, long value)
+    vantrel::Status SaveLongMember(std::string name, long value)
     {
         return Helpers::SaveLongNode(m_node, Node(name), Name(name), value);
     }
-    Status LoadLongMember(std::string name, long* value)
+    vantrel::Status LoadLongMember(std::string name, long* value)
     {
         return Helpers::LoadLongNode(m_node, Node(name), Name(name), value);
     }
-    Status SaveULongMember(std::string name, unsigned long value)
+    vantrel::Status SaveULongMember(std::string name, unsigned long value)
     {
         return Helpers::SaveULongNode(m_node, Node(name), Name(name), value);
     }
-    Status LoadULongMember(std::string name, unsigned long* value)
+    vantrel::Status LoadULongMember(std::string name, unsigned long* value)
     {
         return Helpers::LoadULongNode(m_node, Node(name), Name(name), value);
     }
-    Status SaveDoubleMember(std::string name, double value)
+    vantrel::Status SaveDoubleMember(std::string name, double value)
     {
         return Helpers::SaveDoubleNode(m_node, Node(name), Name(name), value);
     }
-    Status LoadDoubleMember(std::string name, double* value)
+    vantrel::Status LoadDoubleMember(std::string name, double* value)
     {
         return Helpers::LoadDoubleNode(m_node, Node(name), Name(name), value);
     }
-    Status SaveBoolMember(std::string name, bool value)
+    vantrel::Status SaveBoolMember(std::string name, bool value)
     {
         return Helpers::SaveBoolNode(m_node, Node(name), Name(name), value);
     }
-    Status LoadBoolMember(std::string name, bool* value)
+    vantrel::Status LoadBoolMember(std::string name, bool* value)
     {
         return Helpers::LoadBoolNode(m_node, Node(name), Name(name), value);
     }
-    Status SaveStringMember(std::string name, std::string value)
+    vantrel::Status SaveStringMember(std::string name, std::string value)
     {
         return Helpers::SaveStringNode(m_node, Node(name), Name(name), std::move(value));
     }
-    Status LoadStringMember(std::string name, std::string* value)
+    vantrel::Status LoadStringMember(std::string name, std::string* value)
     {
         return Helpers::LoadStringNode(m_node, Node(name), Name(name), value);
     }
-    Status SaveInt2Member(std::string name, short value)
+    vantrel::Status SaveInt2Member(std::string name, short value)
     {
         return Helpers::SaveInt2Node(m_node, Node(name), Name(name), value);
     }
-    Status LoadInt2Member(std::string name, short* value)
+    vantrel::Status LoadInt2Member(std::string name, short* value)
     {
         return Helpers::LoadInt2Node(m_node, Node(name), Name(name), value);
     }
-    Status LoadUInt2Member(std::string name, unsigned short& value)
+    vantrel::Status LoadUInt2Member(std::string name, unsigned short& value)
     {
         return Helpers::LoadUInt2Node(m_node, Node(name), Name(name), value);
     }
-    Status SaveUUID(std::string name, _GUID value)
+    vantrel::Status SaveUUID(std::string name, _GUID value)
     {
         return Helpers::SaveUUIDNode(m_node, Node(name), Name(name), value);
     }
-    Status LoadUUID(std::string name, _GUID& value)
+    vantrel::Status LoadUUID(std::string name, _GUID& value)
     {
         return Helpers::LoadUUIDNode(m_node, Node(name), Name(name), value);
     }
-    Status SaveBlob(std::string name, char* data, unsigned long size)
+    vantrel::Status SaveBlob(std::string name, char* data, unsigned long size)
     {
         return Helpers::SaveBlobNode(m_node, Node(name), Name(name), data, size);
     }
-    Status LoadBlob(std::string name, char* data, unsigned long& size)
+    vantrel::Status LoadBlob(std::string name, char* data, unsigned long& size)
     {
         return Helpers::LoadBlobNode(m_node, Node(name), Name(name), data, size);
     }
     /// A container, or a member with a type of its own; `out` receives its element.
-    Status SaveMember(std::string name, std::string type, std::string value, _xmlNode** out)
+    vantrel::Status SaveMember(std::string name, std::string type, std::string value,
+                               _xmlNode** out)
     {
         return Helpers::SaveNode(m_node, Node(name), Name(name), std::move(type), std::move(value),
                                  out);
     }
-    Status LoadMember(std::string name, std::string* value, _xmlNode** out)
+    vantrel::Status LoadMember(std::string name, std::string* value, _xmlNode** out)
     {
         return Helpers::LoadNode(m_node, Node(name), Name(name), value, out);
     }
@@ -147,30 +148,30 @@ private:
 };
 
 template <class T>
-Status XMLWrapper<T>::SaveMembers()
+vantrel::Status XMLWrapper<T>::SaveMembers()
 {
     if constexpr (std::is_trivially_copyable_v<T>)
         return SaveBlob(m_name, reinterpret_cast<char*>(&m_object), sizeof(T));
     else
-        return status::kNotAvailable;
+        return vantrel::status::kNotAvailable;
 }
 
 template <class T>
-Status XMLWrapper<T>::LoadMembers()
+vantrel::Status XMLWrapper<T>::LoadMembers()
 {
     if constexpr (std::is_trivially_copyable_v<T>) {
         unsigned long size = sizeof(T);
         return LoadBlob(m_name, reinterpret_cast<char*>(&m_object), size);
     } else {
-        return status::kNotAvailable;
+        return vantrel::status::kNotAvailable;
     }
 }
 
 template <class T>
-Status XMLWrapper<T>::SaveToXML(_xmlNode* node, bool direct)
+vantrel::Status XMLWrapper<T>::SaveToXML(_xmlNode* node, bool direct)
 {
     if (!node)
-        return status::kBadArgument;
+        return vantrel::status::kBadArgument;
     m_node = node;
     if (!direct && m_useElementNames)
         (void)Helpers::SaveNode(node, m_name, "", "", "", &m_node); // can't fail on a node
@@ -180,10 +181,10 @@ Status XMLWrapper<T>::SaveToXML(_xmlNode* node, bool direct)
 }
 
 template <class T>
-Status XMLWrapper<T>::LoadFromXML(_xmlNode* node, bool direct)
+vantrel::Status XMLWrapper<T>::LoadFromXML(_xmlNode* node, bool direct)
 {
     if (!node)
-        return status::kBadArgument;
+        return vantrel::status::kBadArgument;
     m_node = direct ? node : nullptr; // a sub-element that is missing leaves null
     if (!direct && m_useElementNames)
         (void)Helpers::LoadNode(node, m_name, "", nullptr, &m_node);

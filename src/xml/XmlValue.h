@@ -88,6 +88,6 @@ XmlNodePtr NewText(xmlDoc* doc, const char* text);
 
 /// Adds an attribute that `element` doesn't have yet, its value made fit for a file. An `element`
 /// that may have it already wants `xmlSetProp`. Gives `status::kNullPointer` when that fails.
-Status AddAttribute(xmlNode* element, const char* name, const std::string& value);
+vantrel::Status AddAttribute(xmlNode* element, const char* name, const std::string& value);
 
 } // namespace vantrel

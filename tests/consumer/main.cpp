@@ -11,6 +11,8 @@
 #include <initializer_list>
 #include <string>
 
+using namespace vantrel;
+
 namespace {
 
 /// Ends the program with a message when a fact doesn't hold, also in builds without `assert`.

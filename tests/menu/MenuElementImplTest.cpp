@@ -7,6 +7,7 @@
 #include <cmath>
 
 using std::string;
+using namespace vantrel;
 
 namespace {
 

@@ -6,6 +6,7 @@
 #include <tuple>
 
 using std::string;
+using namespace vantrel;
 
 namespace {
 

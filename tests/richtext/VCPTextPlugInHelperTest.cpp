@@ -12,6 +12,7 @@ using std::string;
 namespace {
 
 using Helper = CVCPTextPlugInHelper;
+using namespace vantrel;
 
 string Effect(const string& body)
 {

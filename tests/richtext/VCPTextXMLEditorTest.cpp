@@ -12,6 +12,7 @@
 
 using std::map;
 using std::string;
+using namespace vantrel;
 
 namespace {
 

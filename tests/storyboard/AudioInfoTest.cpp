@@ -7,6 +7,8 @@
 #include <limits>
 #include <vector>
 
+using namespace vantrel;
+
 namespace {
 
 std::string AudioInfoText(CAudioObject& audio)

@@ -4,6 +4,8 @@
 #include "storyboard/ColorObject.h"
 #include "support/StoryboardFixture.h"
 
+using namespace vantrel;
+
 namespace {
 
 constexpr eMarkerType kType3{ 3 };

@@ -7,6 +7,8 @@
 #include "storyboard/TransitionObject.h"
 #include "support/StoryboardFixture.h"
 
+using namespace vantrel;
+
 namespace {
 
 constexpr const char* kNewBase =

@@ -3,6 +3,8 @@
 #include "storyboard/MotionObject.h"
 #include "support/StoryboardFixture.h"
 
+using namespace vantrel;
+
 namespace {
 
 constexpr const char* kDt = "<O xmlns:dt='urn:schemas-microsoft-com:datatypes'>";

@@ -8,6 +8,8 @@
 #include "storyboard/TransitionObject.h"
 #include "support/StoryboardFixture.h"
 
+using namespace vantrel;
+
 TEST(QZBaseSBD, EmptyStoryboardWritesItsFiveElements)
 {
     CQZBaseSBD sbd;

@@ -9,6 +9,8 @@
 
 #include <cmath>
 
+using namespace vantrel;
+
 namespace {
 
 /// Clips of 10 and 6 seconds with a transition of 2 between them: 14 seconds.

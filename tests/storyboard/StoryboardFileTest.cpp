@@ -7,6 +7,7 @@
 #include "support/StoryboardFixture.h"
 
 using std::string;
+using namespace vantrel;
 
 namespace {
 

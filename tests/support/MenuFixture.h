@@ -26,7 +26,7 @@ inline std::string PointText(float x, float y)
 inline std::string Corners(const CMenuElementImpl& element)
 {
     std::vector<FPoint> corners;
-    EXPECT_EQ(element.getBoundingBox(&corners), status::kOk);
+    EXPECT_EQ(element.getBoundingBox(&corners), vantrel::status::kOk);
     std::string text;
     for (const FPoint& corner : corners)
         text += (text.empty() ? "" : ", ") + PointText(corner.x, corner.y);
@@ -37,14 +37,14 @@ inline std::string Corners(const CMenuElementImpl& element)
 inline std::string ExtentOf(const CMenuElementImpl& element)
 {
     FRect rect(7, 7, 7, 7);
-    EXPECT_EQ(element.getExtent(&rect), status::kOk);
+    EXPECT_EQ(element.getExtent(&rect), vantrel::status::kOk);
     return PointText(rect.left, rect.top) + " " + PointText(rect.right, rect.bottom);
 }
 
 inline std::string PositionOf(const CMenuElementImpl& element)
 {
     float x = 0, y = 0;
-    EXPECT_EQ(element.getPosition(&x, &y), status::kOk);
+    EXPECT_EQ(element.getPosition(&x, &y), vantrel::status::kOk);
     return PointText(x, y);
 }
 

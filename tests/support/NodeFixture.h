@@ -20,7 +20,7 @@ private:
 };
 
 /// Reads a node from the root of a document given as text.
-inline Status ReadNode(CProjectNode& node, std::string_view text)
+inline vantrel::Status ReadNode(CProjectNode& node, std::string_view text)
 {
     const XmlText xml{ text };
     return node.Read(vantrel::AsNode(xml.root()));
@@ -30,7 +30,7 @@ inline Status ReadNode(CProjectNode& node, std::string_view text)
 inline std::string WrittenNode(CProjectNode& node, const char* name = "N", long native = 0)
 {
     const EmptyXml xml{ name };
-    EXPECT_EQ(node.Write(vantrel::AsNode(xml.root()), native), status::kOk);
+    EXPECT_EQ(node.Write(vantrel::AsNode(xml.root()), native), vantrel::status::kOk);
     return TextOf(xml.root());
 }
 
@@ -38,9 +38,10 @@ inline std::string WrittenNode(CProjectNode& node, const char* name = "N", long 
 inline std::string MappedNode(CProjectNode& node, const char* name = "N", bool native = false)
 {
     std::map<std::string, std::string> attributes;
-    EXPECT_EQ(node.FillAttributeMap(attributes, native), status::kOk);
+    EXPECT_EQ(node.FillAttributeMap(attributes, native), vantrel::status::kOk);
     const EmptyXml xml{ name };
-    EXPECT_EQ(node.WriteNodeAttributes(vantrel::AsNode(xml.root()), attributes), status::kOk);
+    EXPECT_EQ(node.WriteNodeAttributes(vantrel::AsNode(xml.root()), attributes),
+              vantrel::status::kOk);
     return TextOf(xml.root());
 }
 

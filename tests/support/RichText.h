@@ -29,6 +29,6 @@ inline std::string Summary(const TextAttributes& text)
 inline std::string Summary(const _xmlNode* body)
 {
     TextAttributes attributes;
-    EXPECT_EQ(vantrel::SummariseRuns(body, &attributes), status::kOk);
+    EXPECT_EQ(vantrel::SummariseRuns(body, &attributes), vantrel::status::kOk);
     return Summary(attributes);
 }

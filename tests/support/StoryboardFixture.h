@@ -20,7 +20,7 @@ inline _xmlNode* StoryboardIn(xmlDoc* doc)
 inline std::string SavedFile(CQZBaseSBD& sbd, bool lend = true)
 {
     _xmlDoc* doc = nullptr;
-    EXPECT_EQ(XMLHelpers<void>::CreateDocument(&doc), status::kOk);
+    EXPECT_EQ(XMLHelpers<void>::CreateDocument(&doc), vantrel::status::kOk);
     const vantrel::XmlDocPtr owner{ doc };
     std::optional<vantrel::XmlLoan> loan;
     if (lend)
@@ -29,7 +29,7 @@ inline std::string SavedFile(CQZBaseSBD& sbd, bool lend = true)
     _xmlNode* title = nullptr;
     XMLHelpers<void>::SaveNode(xmlDocGetRootElement(doc), "Productions", "", "", "", &productions);
     XMLHelpers<void>::SaveNode(productions, "Title0001", "", "", "", &title);
-    EXPECT_EQ(sbd.SaveProductionToXML(title), status::kOk);
+    EXPECT_EQ(sbd.SaveProductionToXML(title), vantrel::status::kOk);
     std::string bytes;
     EXPECT_TRUE(vantrel::SerializeXml(doc, &bytes));
     return bytes;
@@ -39,19 +39,19 @@ inline std::string SavedFile(CQZBaseSBD& sbd, bool lend = true)
 inline void LoadFile(CQZBaseSBD& sbd, std::string_view file)
 {
     const XmlText xml{ file };
-    EXPECT_EQ(sbd.LoadProductionFromXML(StoryboardIn(xml.doc())), status::kOk);
+    EXPECT_EQ(sbd.LoadProductionFromXML(StoryboardIn(xml.doc())), vantrel::status::kOk);
 }
 
 /// Reads an object, or writes it, as the content of an element of its own.
 inline void ReadObject(CPersistObject& object, std::string_view text)
 {
     const XmlText xml{ text };
-    EXPECT_EQ(object.LoadXML(xml.root()), status::kOk);
+    EXPECT_EQ(object.LoadXML(xml.root()), vantrel::status::kOk);
 }
 
 inline std::string WrittenObject(CPersistObject& object)
 {
     const EmptyXml xml{ "O" };
-    EXPECT_EQ(object.SaveXML(xml.root()), status::kOk);
+    EXPECT_EQ(object.SaveXML(xml.root()), vantrel::status::kOk);
     return TextOf(xml.root());
 }

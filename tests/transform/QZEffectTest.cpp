@@ -12,6 +12,7 @@
 
 using std::string;
 using testing::HasSubstr;
+using namespace vantrel;
 
 namespace {
 

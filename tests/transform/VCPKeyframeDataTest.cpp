@@ -13,6 +13,7 @@ using std::string;
 using vantrel::kAllKeyframes;
 using vantrel::ULongTrack;
 using vantrel::VectorTrack;
+using namespace vantrel;
 
 namespace {
 

@@ -7,6 +7,8 @@
 
 #include <vector>
 
+using namespace vantrel;
+
 namespace {
 
 struct Overlay : CVCPOverlayRect

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 using vantrel::XmlNodePtr;
+using namespace vantrel;
 
 TEST(PlugInHelper, SaveHandsOutAnUpdatedCopy)
 {

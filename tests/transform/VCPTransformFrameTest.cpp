@@ -12,6 +12,7 @@
 using std::string;
 using testing::ElementsAre;
 using Floats = std::vector<float>;
+using namespace vantrel;
 
 namespace {
 

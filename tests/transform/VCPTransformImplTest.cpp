@@ -9,6 +9,7 @@
 using testing::ElementsAre;
 using vantrel::kAllKeyframes;
 using Floats = std::vector<float>;
+using namespace vantrel;
 
 namespace {
 

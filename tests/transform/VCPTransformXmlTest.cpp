@@ -10,6 +10,7 @@
 using std::string;
 using testing::HasSubstr;
 using testing::Not;
+using namespace vantrel;
 
 namespace {
 

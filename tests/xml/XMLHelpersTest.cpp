@@ -6,6 +6,7 @@
 #include <limits>
 
 using Helpers = XMLHelpers<void>;
+using namespace vantrel;
 
 namespace {
 

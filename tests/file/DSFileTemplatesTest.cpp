@@ -5,6 +5,7 @@
 #include "support/NodeFixture.h"
 
 using std::string;
+using namespace vantrel;
 
 namespace {
 
