@@ -30,7 +30,8 @@ Json Facts(CDSMenuText& text)
     facts["tag"] = AskFlags(text, &T::get_Tag, FormatTextTag);
     facts["words"] = Ask<string>(text, &T::getString);
     facts["font"] = Ask<string>(text, &T::get_Font);
-    facts["height"] = Ask<long>(text, &T::get_Height);
+    long height = 0;
+    facts["height"] = text.get_Height(&height) == vantrel::status::kOk ? Json(height) : Json();
     facts["colour"] = ColourFact(Ask<unsigned long>(text, &T::GetColor));
     facts["handle"] = AskEnum<TextHandles>(text, &T::get_Handle);
     facts["highlight"] = AskEnum<TextHighlight>(text, &T::get_Highlight);
@@ -62,10 +63,15 @@ string CornerText(const Json& corners)
     return List(texts);
 }
 
+string HeightText(const Json& height)
+{
+    return height.is_null() ? "of no one height" : height.dump();
+}
+
 string TextText(const Json& text)
 {
     return '"' + string(text["words"]) + "\", " +
-           List({ string(text["font"]) + ' ' + text["height"].dump(), text["colour"],
+           List({ string(text["font"]) + ' ' + HeightText(text["height"]), text["colour"],
                   NameOf(text["handle"]) + " at " + PointText(text["position"]) });
 }
 

@@ -63,15 +63,13 @@ Status CDSMenuText::get_Height(long* out)
     if (!out)
         return status::kNullPointer;
     string raw;
-    string height;
-    const Status told = getFontHeightString(&raw);
-    const bool isReference = raw.find("stringRef:") != string::npos;
-    if (told == status::kOk && !ParseResString(raw, &height)) {
-        if (isReference)
-            return status::kNothingDone;
-        height = raw;
-    }
-    return Give(out, ParseLong(height));
+    string resolved;
+    if (getFontHeightString(&raw) != status::kOk)
+        return status::kNothingDone;
+    if (raw.empty())
+        return getFontHeight(out); // the text states none, and has that of its defaults
+    const long height = ParseLong(ParseResString(raw, &resolved) ? resolved : raw);
+    return height > 0 ? Give(out, height) : status::kNothingDone;
 }
 
 Status CDSMenuText::GetColor(unsigned long* out)

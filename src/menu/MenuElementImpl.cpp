@@ -150,7 +150,7 @@ Status CMenuElementImpl::getTranslationXForms(FPoint* parentOffset, FPoint* ownO
     *parentOffset = FPoint();
     if (const CMenuElementImpl* button = getParentBtn())
         (void)button->getPosition(&parentOffset->x, &parentOffset->y);
-    return getRawPosition(&ownOffset->x, &ownOffset->y);
+    return getPosition(&ownOffset->x, &ownOffset->y);
 }
 
 Status CMenuElementImpl::getBoundingBox(vector<FPoint>* corners) const

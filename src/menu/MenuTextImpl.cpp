@@ -37,6 +37,8 @@ constexpr HandlePlace sarHandleMap[] = {
 
 constexpr int kFrameHeight = 480; // pixels; the width follows from the production's aspect ratio
 
+constexpr const char* kEffectName = "effect"; // of the XML in a file
+
 constexpr long kBeyondFonts = 1000; // a height that the helper refuses as it does any above it
 
 _xmlNode* PluginData(const _xmlNode* effect)
@@ -151,9 +153,11 @@ Status CMenuTextImpl::getFontHeight(long* out)
 {
     return Answer([=](const auto& helper) {
         int height = 0;
-        const Status told = helper.GetFontSize(&height);
-        const Status given = Give(out, height);
-        return Failed(given) ? given : told;
+        if (!out)
+            return status::kNullPointer;
+        if (helper.GetFontSize(&height) != status::kOk || height <= 0) // the text has no one number
+            return status::kNothingDone;
+        return Give(out, height);
     });
 }
 
@@ -202,9 +206,11 @@ Status CMenuTextImpl::setEffectXML(_xmlNode* node)
 {
     if (HasEffect())
         return m_effect.setXMLData(node);
-    KeptXmlPtr copy{ CopyXml(node).release() }; // `node` may stand in the XML that goes
+    XmlNodePtr copy = CopyXml(node); // `node` may stand in the XML that goes
+    if (IsElement(copy.get()) && NameOf(copy.get()) != kEffectName)
+        xmlNodeSetName(copy.get(), XmlChars(kEffectName)); // what a file calls it
     ForgetWhatWasRead();
-    m_effectXML = std::move(copy);
+    m_effectXML.reset(copy.release());
     return status::kOk;
 }
 
@@ -216,7 +222,12 @@ void CMenuTextImpl::KeepEffectXML(_xmlNode* effect)
 
 Status CMenuTextImpl::WriteEffectXML(_xmlNode* element) const
 {
-    return HasEffect() ? AppendXmlCopy(element, EffectXML()) : AppendKeptXml(element, m_effectXML);
+    if (!HasEffect())
+        return AppendKeptXml(element, m_effectXML);
+    const Status appended = AppendXmlCopy(element, EffectXML());
+    if (!Failed(appended) && NameOf(element->last) != kEffectName)
+        xmlNodeSetName(element->last, XmlChars(kEffectName)); // the effect may call it otherwise
+    return appended;
 }
 
 Status CMenuTextImpl::getEffectXML(_xmlNode* node)

@@ -160,10 +160,19 @@ void Dissolve(xmlNode* element)
         xmlNodeSetName(element, XmlChars(kNeutralName));
         return;
     }
+    Unwrap(element);
+}
+
+void Unwrap(xmlNode* element)
+{
     if (element->children) {
         xmlNode* const first = std::exchange(element->children, nullptr);
         xmlNode* const last = std::exchange(element->last, nullptr);
         Link(element->parent, element->prev, first, last, element);
+        for (xmlNode* child = first; child != element && element->nsDef; child = child->next) {
+            if (IsElement(child) && child->doc)
+                (void)xmlReconciliateNs(child->doc, child); // what was declared here goes with it
+        }
     }
     RemoveNode(element);
 }

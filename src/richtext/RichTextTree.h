@@ -71,6 +71,9 @@ xmlNode* Enclose(xmlNode* first, xmlNode* last, const char* name);
 /// `SettleTexts` afterwards.
 void Dissolve(xmlNode* element);
 
+/// The same with its attributes, whatever they are. What it declares goes on in what needs it.
+void Unwrap(xmlNode* element);
+
 /// Brings the texts below `element` into the form in which a file gives them back, where neighbours
 /// are one text: joins runs, and keeps a run apart from indentation, which would become words
 /// otherwise, or make the words indentation.

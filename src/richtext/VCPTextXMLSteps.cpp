@@ -73,7 +73,7 @@ Status CVCPTextXMLEditor::DeleteNode(_xmlNode*& node)
         ancestor = ancestor->parent;
     if (!ancestor)
         return status::kBadArgument;
-    Dissolve(node);
+    Unwrap(node);
     SettleTexts(m_body);
     node = nullptr;
     return status::kOk;

@@ -6,20 +6,6 @@
 
 using namespace vantrel;
 
-namespace {
-
-/// `content` taken out of where it stands. In a document its names belong to that document, so that
-/// a copy has to go on in its place.
-XmlNodePtr TakeOut(_xmlNode* content)
-{
-    const bool standsAlone = !content->doc && !content->parent;
-    xmlUnlinkNode(content);
-    XmlNodePtr taken{ content };
-    return standsAlone ? std::move(taken) : CopyXml(taken.get());
-}
-
-} // namespace
-
 Status CVCPPlugInHelper::LoadXML(_xmlNode* node)
 {
     m_xml = nullptr;
@@ -51,11 +37,13 @@ Status CVCPPlugInHelper::MergeXML(_xmlNode* node, _xmlNode* content, _xmlNode** 
     XmlNodePtr merged = CopyXml(node);
     if (!merged)
         return status::kNullPointer;
+    if (Failed(DetachXml(content)))
+        return status::kNullPointer;
     if (_xmlNode* earlier = FindChildElement(merged.get(), NameOf(content))) {
         xmlUnlinkNode(earlier);
         const XmlNodePtr released{ earlier };
     }
-    xmlAddChild(merged.get(), TakeOut(content).release());
+    xmlAddChild(merged.get(), content); // can't fail on two elements of no document
     *out = merged.release();
     return status::kOk;
 }

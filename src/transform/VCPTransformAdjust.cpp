@@ -19,6 +19,15 @@ D3DXVECTOR3 OnAxes(const Row& row, unsigned long caps, const D3DXVECTOR3& shift)
              caps & row.z ? shift.z : 0.0F };
 }
 
+/// True when no key of `keys` leaves the finite numbers by `shift`.
+template <class Row>
+bool StaysFinite(const VectorTrack::Map& keys, const Row& row, const D3DXVECTOR3& shift)
+{
+    return std::all_of(keys.begin(), keys.end(), [&](const auto& key) {
+        return IsFinite(key.second.value + OnAxes(row, key.second.caps, shift));
+    });
+}
+
 } // namespace
 
 Status CVCPTransformImpl::Adjust3DKeyframes(unsigned long mask, float x, float y, float z)
@@ -37,13 +46,19 @@ Status CVCPTransformImpl::Adjust3DKeyframesIntl(unsigned long mask, float x, flo
     const VectorRow* row = FindRow(mask);
     if (!row || !vantrel::IsFinite(D3DXVECTOR3(x, y, z)))
         return status::kBadArgument;
-    VectorTrack& track = this->*row->track;
-    if (!track.HasKeys())
-        (void)track.SetValue(0.0, KVC_KEYFRAME_START_OFFSET, row->rest, row->x | row->y | row->z);
-
     // a scroll that is shown turned moves across: what is asked for in x goes to y
     const bool crossed = mask == TRANSFORM_TRANSLATION && IsTurnedScroll();
     const D3DXVECTOR3 shift = crossed ? D3DXVECTOR3(-y, x, z) : D3DXVECTOR3(x, y, z);
+    VectorTrack& track = this->*row->track;
+    bool staysFinite =
+        IsFinite(row->rest + shift) && IsFinite(this->*row->delta + D3DXVECTOR3(x, y, z));
+    for (const KVC_KEYFRAME_TYPE each : vantrel::kKeyframeTypes)
+        staysFinite = staysFinite && StaysFinite(*track.GetMap(each), *row, shift);
+    if (!staysFinite)
+        return status::kBadArgument;
+    if (!track.HasKeys())
+        (void)track.SetValue(0.0, KVC_KEYFRAME_START_OFFSET, row->rest, row->x | row->y | row->z);
+
     unsigned long accepted = 0;
     for (const KVC_KEYFRAME_TYPE each : vantrel::kKeyframeTypes) {
         if (onlyType && each != type)
@@ -115,6 +130,8 @@ void CVCPTransformImpl::AdjustPathValues(unsigned long mask, KVC_KEYFRAME_TYPE t
     }
     const D3DXVECTOR3 gap = element->value + keys->rbegin()->second.value * -1.0F;
     const D3DXVECTOR3 shift = OnAxes(*row, element->caps, gap);
+    if (!StaysFinite(*keys, *row, shift))
+        return;
     for (auto& [time, key] : *keys)
         key.value += OnAxes(*row, key.caps, shift);
 }

@@ -5,6 +5,7 @@
 #include "transform/VCPTransformRows.h"
 
 #include <algorithm>
+#include <cmath>
 
 using vantrel::Give;
 using namespace vantrel;
@@ -260,7 +261,7 @@ Status CVCPTransformImpl::SetPathSuspended(bool value)
 
 Status CVCPTransformImpl::SetAspectRatio(float ratio)
 {
-    if (!(ratio > 0.0F))
+    if (!(ratio > 0.0F) || !std::isfinite(ratio))
         return status::kBadArgument;
     m_aspectRatio = ratio;
     return status::kOk;
@@ -268,7 +269,7 @@ Status CVCPTransformImpl::SetAspectRatio(float ratio)
 
 Status CVCPTransformImpl::SetFrameRate(double framesPerSecond)
 {
-    if (!(framesPerSecond > 0.0))
+    if (!(framesPerSecond > 0.0) || !std::isfinite(framesPerSecond))
         return status::kBadArgument;
     m_frameRate = framesPerSecond;
     return status::kOk;

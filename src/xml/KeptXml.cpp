@@ -3,6 +3,9 @@
 #include "core/XmlText.h"
 #include "xml/XmlValue.h"
 
+#include <libxml/parserInternals.h>
+
+#include <map>
 #include <set>
 #include <string>
 #include <utility>
@@ -18,6 +21,12 @@ bool IsDataTypes(const xmlNs* ns)
 {
     return ns->prefix && ns->href && std::string_view(Chars(ns->prefix)) == "dt" &&
            std::string_view(Chars(ns->href)) == kDataTypesUri;
+}
+
+/// True for what stands for "xml", which no document declares.
+bool IsBuiltIn(const xmlNs* ns)
+{
+    return ns->prefix && std::string_view(Chars(ns->prefix)) == "xml";
 }
 
 /// Copies a subtree with plain names, and notes which prefixes it uses without declaring them.
@@ -156,8 +165,7 @@ private:
     {
         xmlAttr* const attributes = std::exchange(top->properties, nullptr);
         for (const xmlNs* ns : m_used) {
-            const bool builtIn = ns->prefix && std::string_view(Chars(ns->prefix)) == "xml";
-            if (!builtIn && !m_declared.contains(ns))
+            if (!IsBuiltIn(ns) && !m_declared.contains(ns))
                 AddDeclaration(top, ns);
         }
         if (!attributes)
@@ -257,6 +265,143 @@ void MoveToDocument(xmlNode& node, xmlDoc* doc)
     }
 }
 
+/// Frees a subtree in place from what belongs to its document: strings of the dictionary,
+/// namespaces that are declared further up, references to entities. All that can fail comes first.
+class XmlDetacher
+{
+public:
+    explicit XmlDetacher(xmlNode* top) : m_top(top), m_dict(top->doc ? top->doc->dict : nullptr) {}
+
+    Status Prepare()
+    {
+        for (xmlNode* node = m_top; node; node = NextBelow(m_top, node)) {
+            PrepareNode(*node);
+            if (node->type != XML_ELEMENT_NODE)
+                continue;
+            for (xmlNs* ns = node->nsDef; ns; ns = ns->next)
+                m_inside.insert(ns);
+            PrepareName(node->name, node->ns);
+            for (xmlAttr* attribute = node->properties; attribute; attribute = attribute->next) {
+                PrepareName(attribute->name, attribute->ns);
+                for (xmlNode* part = attribute->children; part; part = part->next)
+                    PrepareNode(*part);
+            }
+        }
+        return m_complete ? status::kOk : status::kNoMemory;
+    }
+
+    void Finish()
+    {
+        xmlDoc* const doc = m_top->doc;
+        for (xmlNode* node = m_top; node; node = NextBelow(m_top, node)) {
+            for (xmlAttr* attribute = IsElement(node) ? node->properties : nullptr; attribute;
+                 attribute = attribute->next) {
+                if (attribute->atype == XML_ATTRIBUTE_ID && doc)
+                    (void)xmlRemoveID(doc, attribute); // it need not be listed
+                attribute->doc = nullptr;
+                for (xmlNode* part = attribute->children; part; part = part->next)
+                    part->doc = nullptr;
+            }
+            node->doc = nullptr;
+        }
+        xmlUnlinkNode(m_top);
+        for (auto& [content, text] : m_contents)
+            *content = text.release();
+        for (auto& [name, text] : m_names) {
+            Release(*name);
+            *name = text.release();
+        }
+        for (const auto& [place, ns] : m_namespaces)
+            *place = ns;
+        for (auto& [outside, ns] : m_declarations) {
+            ns->next = m_top->nsDef;
+            m_top->nsDef = ns.release();
+        }
+        for (auto& [node, text] : m_references) {
+            Release(node->name);
+            node->type = XML_TEXT_NODE;
+            node->name = xmlStringText;
+            node->children = node->last = nullptr;
+            node->content = text.release();
+        }
+    }
+
+private:
+    template <class Place>
+    using Texts = std::vector<std::pair<Place, XmlTextPtr>>;
+
+    XmlTextPtr NewString(const xmlChar* text)
+    {
+        XmlTextPtr copy{ xmlStrdup(text) };
+        m_complete = m_complete && copy;
+        return copy;
+    }
+
+    void Release(const xmlChar* name) const
+    {
+        if (!IsShared(name))
+            const XmlTextPtr released{ const_cast<xmlChar*>(name) };
+    }
+
+    bool IsShared(const xmlChar* text) const
+    {
+        return text && m_dict && xmlDictOwns(m_dict, text) != 0;
+    }
+
+    /// What no name needs: the content of a text, comment or instruction.
+    void PrepareNode(xmlNode& node)
+    {
+        if (node.type == XML_ENTITY_REF_NODE) {
+            xmlNode alone = node;
+            alone.next = nullptr;
+            const string text{ ResolvedText(&alone, m_store) };
+            m_references.emplace_back(&node, NewString(XmlChars(text.c_str())));
+        } else if (node.type != XML_ELEMENT_NODE) {
+            if (IsShared(node.content))
+                m_contents.emplace_back(&node.content, NewString(node.content));
+            if (node.type == XML_PI_NODE && IsShared(node.name))
+                m_names.emplace_back(&node.name, NewString(node.name));
+        }
+    }
+
+    void PrepareName(const xmlChar*& name, xmlNs*& ns)
+    {
+        const bool isOutside = ns && !m_inside.contains(ns);
+        if (isOutside && (IsDataTypes(ns) || IsBuiltIn(ns))) { // nobody need declare those
+            XmlTextPtr plain{ xmlBuildQName(name, ns->prefix, nullptr, 0) };
+            m_complete = m_complete && plain;
+            m_names.emplace_back(&name, std::move(plain));
+            m_namespaces.emplace_back(&ns, nullptr);
+            return;
+        }
+        if (IsShared(name))
+            m_names.emplace_back(&name, NewString(name));
+        if (isOutside)
+            m_namespaces.emplace_back(&ns, Declaration(ns));
+    }
+
+    /// What the top of the subtree declares in place of `ns`.
+    xmlNs* Declaration(const xmlNs* ns)
+    {
+        XmlNsPtr& made = m_declarations[ns];
+        if (!made)
+            made.reset(xmlNewNs(nullptr, ns->href, ns->prefix));
+        m_complete = m_complete && made;
+        return made.get();
+    }
+
+    xmlNode* m_top;
+    xmlDict* m_dict;
+    bool m_complete = true;
+    string m_store;
+    std::set<const xmlNs*> m_inside; ///< declared in the subtree
+    Texts<const xmlChar**> m_names;
+    Texts<xmlChar**> m_contents; ///< in place of texts of the dictionary
+    Texts<xmlNode*> m_references;
+    std::vector<std::pair<xmlNs**, xmlNs*>> m_namespaces;
+    std::map<const xmlNs*, XmlNsPtr> m_declarations;
+};
+
 /// An empty document that shares the dictionary of `source`.
 XmlDocPtr MakeHome(const xmlDoc* source)
 {
@@ -298,6 +443,15 @@ KeptXmlPtr KeepXml(xmlNode* node)
 {
     const bool isGiven = node && node->doc && node->doc->_private == &kGift;
     return isGiven ? TakeXml(node) : KeptXmlPtr{ CopyXml(node).release() };
+}
+
+Status DetachXml(xmlNode* node)
+{
+    XmlDetacher detacher(node);
+    const Status prepared = detacher.Prepare();
+    if (!Failed(prepared))
+        detacher.Finish();
+    return prepared;
 }
 
 KeptXmlPtr TakeXml(xmlNode* node)

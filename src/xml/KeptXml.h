@@ -20,6 +20,11 @@ KeptXmlPtr KeepXml(xmlNode* node);
 /// A deep copy of `node`. Null gives null.
 XmlNodePtr CopyXml(const xmlNode* node);
 
+/// Takes an element out of its document, so that it depends on nothing of it and may outlive it. All
+/// nodes stay what and where they are, for whoever points at them; a reference to an entity becomes
+/// the text that it stands for. Gives `status::kNoMemory`, with nothing changed, when that fails.
+Status DetachXml(xmlNode* node);
+
 /// Takes `node` out of its document and keeps it. Nothing is copied unless namespaces or entities
 /// ask for it: the subtree becomes the root of a document of its own, which shares the dictionary
 /// that holds its names. Null gives null.

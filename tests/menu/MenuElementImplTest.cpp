@@ -80,6 +80,12 @@ TEST_F(PlacedElement, IsWhereItsEffectPutsIt)
     EXPECT_EQ(static_cast<CMenuElementImpl&>(overlay).setPosition(3, 4), status::kOk);
     EXPECT_EQ(PositionOf(overlay), "3 4");
     EXPECT_EQ(effect.Position(), "13 24"); // the effect has moved
+    EXPECT_EQ(ExtentOf(overlay), "11 25 15 23");
+    EXPECT_EQ(button.EnableAnchorElement(true), status::kOk);
+    EXPECT_EQ(static_cast<CMenuElementImpl&>(button).setPosition(0.3F, 0.2F), status::kOk);
+    EXPECT_EQ(ExtentOf(overlay) + ", " + ExtentOf(button), // the box moves with the button once
+              "-1.7 1.2 2.3 -0.8, -1.7 1.2 2.3 -0.8");
+    EXPECT_EQ(button.EnableAnchorElement(false), status::kOk);
     (void)overlay.put_Rotation(30);
     EXPECT_EQ(overlay.get_Rotation(&x), status::kOk);
     EXPECT_EQ(x, 30);

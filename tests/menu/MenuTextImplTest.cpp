@@ -67,8 +67,8 @@ TEST(Text, WithoutXmlAnswersNothingAndTakesNothing)
         EXPECT_EQ(part.setFontHeight(20), refused);
         EXPECT_EQ(part.setStyle(TEXT_STYLE_BOLD), refused);
         EXPECT_EQ(part.setJustify(TEXT_JUSTIFY_CENTER), refused);
-        EXPECT_EQ(text->get_Height(&height), status::kOk);
-        EXPECT_EQ(height, 0);
+        EXPECT_EQ(text->get_Height(&height), status::kNothingDone);
+        EXPECT_EQ(height, 7);
     }
     FloatPoint corners[4] = { { 5, 5 } };
     EXPECT_EQ(withoutXml.GetBoundingBox(corners), status::kOk);
@@ -130,7 +130,7 @@ TEST(Text, HandsOutAndTakesCopiesOfItsXml)
 {
     CDSMenuText text;
     {
-        const XmlText given{ Effect("words") };
+        const XmlText given{ "<other>" + Effect("words").substr(8, 58) + "</other>" };
         EXPECT_EQ(text.SetEffectXML(AsNode(given.root())), status::kOk);
     }
     EXPECT_EQ(StringOf(text), "words");
@@ -223,6 +223,10 @@ TEST(Text, ResolvesReferencesIntoTheStringTable)
     } cases[] = {
         { "stringRef:T.hi", "stringRef:T.h", status::kOk, "Hello", status::kOk, 36 },
         { "plain", "18", status::kNothingDone, "plain", status::kOk, 18 },
+        { "plain", "", status::kNothingDone, "plain", status::kOk, 24 }, // the text's default
+        { "plain", "abc", status::kNothingDone, "plain", status::kNothingDone, -1 },
+        { "a</font><font fontHeight=\"30\">b", "18", status::kNothingDone, "ab",
+          status::kNothingDone, -1 }, // "undetermined"
         { "stringRef:U.hi", "stringRef:U.h", status::kNothingDone, "stringRef:U.hi",
           status::kNothingDone, -1 },
     };
@@ -239,6 +243,9 @@ TEST(Text, ResolvesReferencesIntoTheStringTable)
         EXPECT_EQ(words, c.shown);
         EXPECT_EQ(text.get_Height(&height), c.heightStatus);
         EXPECT_EQ(height, c.shownHeight);
+        if (string(c.height).starts_with("string")) // the element part has no table
+            height = -1;
+        EXPECT_EQ(text.getFontHeight(&height), height < 0 ? status::kNothingDone : status::kOk);
         EXPECT_EQ(text.get_Height(nullptr), status::kNullPointer);
         EXPECT_EQ(text.getString(nullptr), status::kNullPointer);
     }

@@ -275,6 +275,8 @@ TEST(RichTextSteps, NodesAreInsertedFoundAndDeleted)
     EXPECT_EQ(editor.DeleteNode(bold), status::kOk);
     EXPECT_EQ(editor.DeleteNode(body), status::kBadArgument);
     EXPECT_EQ(TextOf(body), "<body>\n<p align=\"left\"/>a</body>");
+    EXPECT_EQ(editor.DeleteNode(made), status::kOk); // whatever its attributes
+    EXPECT_EQ(TextOf(body), "<body>a</body>");
 }
 
 } // namespace

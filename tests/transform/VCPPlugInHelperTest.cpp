@@ -32,7 +32,11 @@ TEST(PlugInHelper, MergePutsContentInPlaceOfItsNamesake)
 {
     const CVCPPlugInHelper helper;
     const XmlText xml{ "<a><html>old</html><b/></a>" };
-    const XmlText other{ "<c><html xmlns:dt='urn:d' dt:dt='x'>new</html></c>" };
+    XmlText other{
+        "<!DOCTYPE c [<!ENTITY e 'lot'>]><c xmlns:o='urn:o' xmlns:dt="
+        "'urn:schemas-microsoft-com:datatypes'><html xml:lang='en' o:a='1'><o:b dt:dt='r4'>a "
+        "&e; of new</o:b><!-- a remark --></html></c>"
+    };
     _xmlNode* alone = xmlNewNode(nullptr, vantrel::XmlChars("html"));
     _xmlNode* out = nullptr;
     EXPECT_EQ(helper.MergeXML(xml.root(), nullptr, &out), status::kNullPointer);
@@ -41,9 +45,14 @@ TEST(PlugInHelper, MergePutsContentInPlaceOfItsNamesake)
     ASSERT_EQ(helper.MergeXML(xml.root(), alone, &out), status::kOk);
     EXPECT_EQ(out->last, alone); // itself, not a copy
     EXPECT_EQ(TextOf(XmlNodePtr{ out }.get()), "<a><b/><html/></a>");
-    ASSERT_EQ(helper.MergeXML(xml.root(), other.root()->children, &out), status::kOk);
+    _xmlNode* const content = other.root()->children;
+    const xmlNode* const inner = content->children;
+    ASSERT_EQ(helper.MergeXML(xml.root(), content, &out), status::kOk);
+    EXPECT_EQ(out->last, content); // from a document too
+    EXPECT_EQ(content->children, inner);
+    other = XmlText{ "<gone/>" };
     EXPECT_EQ(TextOf(XmlNodePtr{ out }.get()),
-              R"(<a><b/><html xmlns:dt="urn:d" dt:dt="x">new</html></a>)");
-    EXPECT_EQ(TextOf(other.root()), "<c/>");
+              R"(<a><b/><html xmlns:o="urn:o" xml:lang="en" o:a="1"><o:b dt:dt="r4">a lot of new)"
+              R"(</o:b><!-- a remark --></html></a>)");
     EXPECT_EQ(TextOf(xml.root()), "<a><html>old</html><b/></a>");
 }

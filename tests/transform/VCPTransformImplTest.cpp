@@ -78,7 +78,7 @@ TEST(TransformKeys, AMissingKeyGivesTheRestingValue)
 TEST(TransformProperties, RefuseWhatIsNotAboveZero)
 {
     CVCPTransformImpl transform;
-    for (const double value : { 0.0, -1.0, double(NAN) }) {
+    for (const double value : { 0.0, -1.0, double(NAN), double(INFINITY) }) {
         EXPECT_EQ(transform.SetAspectRatio(float(value)), status::kBadArgument);
         EXPECT_EQ(transform.SetFrameRate(value), status::kBadArgument);
     }
@@ -132,7 +132,9 @@ TEST(Adjustments, MakeAKeyWhereThereIsNone)
     Transform transform;
     EXPECT_EQ(transform.Adjust3DKeyframes(R, NAN, 0, 0), status::kBadArgument);
     transform.Adjust3DKeyframes(R, 1, 2, 3);
-    EXPECT_THAT(transform.KeyAt(R, 0), ElementsAre(1, 2, 3));
+    EXPECT_EQ(transform.Adjust3DKeyframes(R, 0, 3e38F, 0), status::kOk);
+    EXPECT_EQ(transform.Adjust3DKeyframes(R, 5, 3e38F, 0), status::kBadArgument);
+    EXPECT_THAT(transform.KeyAt(R, 0), ElementsAre(1, 3e38F, 3));
     transform.Adjust3DKeyframesIntl(C, 1, 2, 3, true, E);
     EXPECT_THAT(transform.KeyAt(C, 0), ElementsAre(1, 1, 1));
 }
