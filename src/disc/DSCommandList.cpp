@@ -54,7 +54,7 @@ Status CDiscCommandNode::ReadXML(IXMLDOMNode* node)
         return read;
     m_kept.clear();
     for (const xmlNode* child : ChildElements(node)) {
-        if (NameOf(child) == "file" || NameOf(child) == "effect")
+        if (IsNamed(child, "file") || IsNamed(child, "effect"))
             m_kept.push_back(CopyXml(child));
     }
     return status::kOk;

@@ -33,7 +33,7 @@ ProductionIndex IndexOf(const xmlNode* productions)
 {
     ProductionIndex index;
     for (xmlNode* element : ChildElements(productions)) {
-        if (!element->ns)
+        if (!element->ns) // a foreign one hides nothing
             index.try_emplace(NameOf(element), ProductionElement{ element }); // the first counts
     }
     return index;

@@ -50,13 +50,11 @@ void AttributeSlots::Fill(std::span<const AttributeName> names,
 void AttributeSlots::Fill(std::span<const AttributeName> names, const xmlNode* element)
 {
     NameFinder finder(names);
-    std::bitset<kMost> plain; // rows whose text came without a prefix
     for (const xmlAttr* attribute = element->properties; attribute; attribute = attribute->next) {
-        const AttributeName* found = finder.Find(Chars(attribute->name));
-        if (!found || (attribute->ns && plain[found->row]))
-            continue;
-        plain[found->row] = !attribute->ns;
-        Put(found->row, attribute);
+        const AttributeName* found =
+            attribute->ns ? nullptr : finder.Find(Chars(attribute->name)); // others' have a prefix
+        if (found)
+            Put(found->row, attribute);
     }
 }
 

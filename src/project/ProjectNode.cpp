@@ -103,12 +103,9 @@ Status CProjectNode::ReadAttributesByMap(const _xmlNode* element)
     map<string, string> attributes;
     string store;
     for (const xmlAttr* attribute = element->properties; attribute; attribute = attribute->next) {
-        string value{ ResolvedText(attribute->children, store) };
-        const char* name = Chars(attribute->name);
-        if (attribute->ns)
-            attributes.try_emplace(name, std::move(value)); // never hides one without a prefix
-        else
-            attributes.insert_or_assign(name, std::move(value));
+        if (!attribute->ns) // one with a prefix is another's
+            attributes.insert_or_assign(Chars(attribute->name),
+                                        string(ResolvedText(attribute->children, store)));
     }
     return ParseAttributeMap(attributes);
 }
@@ -128,7 +125,7 @@ Status CProjectNode::WriteNodeAttributes(IXMLDOMNode* node, const map<string, st
     if (!node)
         return status::kBadArgument;
     for (const auto& [name, value] : attributes) {
-        if (xmlValidateName(XmlChars(name.c_str()), 0) != 0) {
+        if (!IsName(name.c_str())) {
             std::printf("Failed on attribute: %s\n", name.c_str());
             return status::kNullPointer;
         }

@@ -63,8 +63,8 @@ public:
     virtual vantrel::Status ParseAttributeMap(
         const std::map<std::string, std::string>& attributes) = 0;
 
-    /// The body of `Read`: keeps the document's path, then parses the attributes by local name; one
-    /// with a prefix never hides one without.
+    /// The body of `Read`: keeps the document's path, then parses the attributes that have no
+    /// prefix.
     virtual vantrel::Status ReadXML(IXMLDOMNode* node);
 
     /// The body of `Write`.

@@ -22,11 +22,6 @@ namespace {
 
 constexpr string_view kReference = "stringRef:";
 
-bool IsElementNamed(const xmlNode* node, string_view name)
-{
-    return IsElement(node) && NameOf(node) == name;
-}
-
 /// What tells one state of a file from another.
 struct FileStamp
 {
@@ -130,7 +125,7 @@ bool CResourceLoader::LoadStringTable(_xmlNode* root)
     const auto tables = std::make_shared<Tables>();
     for (xmlNode* child : ChildElements(root)) {
         string name;
-        if (!IsElementNamed(child, "stringTable") || !HasNameProp(child, &name))
+        if (!IsNamed(child, "stringTable") || !HasNameProp(child, &name))
             continue;
         Table strings;
         LoadStrings(child, strings);
@@ -157,7 +152,7 @@ bool CResourceLoader::LoadStrings(_xmlNode* table, map<string, string>& strings)
         return false;
     for (xmlNode* child : ChildElements(table)) {
         string key;
-        if (IsElementNamed(child, "string") && HasNameProp(child, &key))
+        if (IsNamed(child, "string") && HasNameProp(child, &key))
             strings.insert_or_assign(std::move(key), GetTextValue(child));
     }
     return true;

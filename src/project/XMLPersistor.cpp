@@ -21,6 +21,19 @@ string ElementName(CProjectNode& node)
     return name;
 }
 
+/// False when a node of the tree asks for a name that no element can have.
+bool HasNames(CProjectNode& node)
+{
+    const string name = node.GetObjectTagName();
+    if (!name.empty() && !IsName(name.c_str()))
+        return false;
+    for (int i = 0; i < node.GetNumChildren(); ++i) {
+        if (!HasNames(*node.GetChild(i)))
+            return false;
+    }
+    return true;
+}
+
 } // namespace
 
 CXMLPersistor::CXMLPersistor(IXMLDOMNode* parent)
@@ -35,6 +48,8 @@ Status CXMLPersistor::Traverse(CProjectNode* node, long native)
     const string name = ElementName(*node);
     if (name.empty())
         return status::kNullPointer;
+    if (m_depth == 0 && !HasNames(*node))
+        return status::kBadArgument;
     XmlNodePtr element{ xmlNewDocNode(m_pDoc, nullptr, XmlChars(name.c_str()), nullptr) };
     if (!element)
         return status::kNullPointer;

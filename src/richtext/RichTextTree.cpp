@@ -103,8 +103,7 @@ xmlNode* SettleNeighbours(xmlNode* text)
 bool FitsFile(const std::map<string, string>& attributes)
 {
     return std::ranges::all_of(attributes, [](const auto& entry) {
-        return xmlValidateName(XmlChars(entry.first.c_str()), 0) == 0 &&
-               entry.second.size() <= kLongestValue;
+        return IsName(entry.first.c_str()) && entry.second.size() <= kLongestValue;
     });
 }
 

@@ -3,7 +3,7 @@
 #include "core/Property.h"
 #include "richtext/RunAttributes.h"
 #include "richtext/VCPTextXMLEditor.h"
-#include "xml/DsXml.h"
+#include "xml/XmlValue.h"
 
 #include <utility>
 
@@ -14,12 +14,6 @@ namespace {
 
 constexpr int kSmallestFont = 8;
 constexpr int kLargestFont = 128;
-
-_xmlNode* FindBody(_xmlNode* effect)
-{
-    unsigned char path[] = "plugin_data/html/body";
-    return AsNode(effect)->selectSingleNode(path);
-}
 
 /// Gives a value that is there whether it counts or not.
 template <class T>
@@ -36,7 +30,7 @@ Status CVCPTextPlugInHelper::LoadXML(_xmlNode* node)
     m_body = nullptr;
     const Status loaded = CVCPPlugInHelper::LoadXML(node);
     if (m_xml && !Failed(loaded))
-        m_body = FindBody(m_xml);
+        m_body = FindElementAt(m_xml, "plugin_data/html/body");
     const Status parsed = Refresh();
     return m_body ? parsed : status::kBadArgument;
 }

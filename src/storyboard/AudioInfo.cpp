@@ -55,7 +55,7 @@ void LoadMixLevels(xmlNode* element, Audio& audio)
     audio.m_mixLevels.clear();
     for (xmlNode* child : ChildElements(element)) {
         Level level;
-        if (NameOf(child) != "level")
+        if (!IsNamed(child, "level"))
             continue;
         LoadRows({ child }, kLevel, level);
         if (!std::isnan(level.time)) // has no place in an order
@@ -85,7 +85,7 @@ void LoadEqualizer(xmlNode* element, Audio& audio)
     LoadRows({ element }, kEqualizer, audio);
     audio.m_equalizers.clear();
     for (xmlNode* child : ChildElements(element)) {
-        if (NameOf(child) != "EqualizerModel")
+        if (!IsNamed(child, "EqualizerModel"))
             continue;
         auto model = std::make_unique<EQualizerModel>(child);
         const long bands = model->m_bands;

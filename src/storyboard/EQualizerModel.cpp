@@ -29,7 +29,7 @@ std::vector<std::pair<long, const xmlNode*>> FindBands(const xmlNode* node, long
     std::vector<std::pair<long, const xmlNode*>> bands;
     for (const xmlNode* child : ChildElements(node)) {
         const std::string_view name = NameOf(child);
-        if (!name.starts_with(kBandPrefix))
+        if (child->ns || !name.starts_with(kBandPrefix))
             continue;
         const long index = ParseLong(name.substr(kBandPrefix.size()));
         if (index >= 0 && index < count && name == BandName(index))

@@ -201,7 +201,7 @@ Status CMarkerDataImpl::LoadMarkersXML(_xmlNode* node)
         return status::kOk;
     ClearAll();
     for (xmlNode* child : ChildElements(markers)) {
-        if (NameOf(child) != "marker")
+        if (!IsNamed(child, "marker"))
             continue;
         tagMarker read;
         LoadRows({ child }, kMarker, read);

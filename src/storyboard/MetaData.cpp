@@ -78,7 +78,7 @@ void LoadMetaData(const xmlNode* element, MetaDataMap& map)
 {
     for (const xmlNode* entry : ChildElements(element)) {
         const xmlNode* content = NextElement(entry->children);
-        if (content)
+        if (content && !entry->ns)
             map.insert_or_assign(string(NameOf(entry)), KeptXmlPtr{ CopyXml(content).release() });
     }
 }

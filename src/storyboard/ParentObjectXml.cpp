@@ -69,7 +69,7 @@ public:
                     : static_cast<tagENM_LAYER_TYPE>(NumberAttribute(element, "type"));
         EffectMap& effects = StartLayer(key, type);
         for (xmlNode* child : ChildElements(element)) {
-            if (NameOf(child) == kEffect)
+            if (IsNamed(child, kEffect))
                 ReadEffect(child, effects);
         }
     }
@@ -161,9 +161,9 @@ void LoadEffects(xmlNode* element, CParentObjectImpl& parent)
     ParentReader reader(parent);
     const bool layered = HasChild(element, "layer");
     for (xmlNode* child : ChildElements(element)) {
-        if (layered && NameOf(child) == "layer")
+        if (layered && IsNamed(child, "layer"))
             reader.ReadLayer(child);
-        else if (!layered && NameOf(child) == kEffect)
+        else if (!layered && IsNamed(child, kEffect))
             reader.ReadFlatEffect(child);
     }
 }
@@ -186,7 +186,7 @@ void LoadAudioList(xmlNode* element, CParentObjectImpl& parent)
     parent.m_audioList.clear();
     ParentReader reader(parent);
     for (xmlNode* child : ChildElements(element)) {
-        if (NameOf(child) == "audio")
+        if (IsNamed(child, "audio"))
             reader.ReadAudio(child);
     }
 }

@@ -42,7 +42,7 @@ void SaveIdentifier(const MemberPlace& place, const char* name, const Production
 
 void LoadIdentifier(xmlNode* element, Production& production)
 {
-    if (ElementText(element) == kWithWatermark)
+    if (std::string_view(ElementText(element)) == kWithWatermark)
         production.m_useWatermark = production.UseWatermark();
 }
 
@@ -96,7 +96,7 @@ void LoadGradient(xmlNode* element, Production& production)
     for (xmlNode* child : ChildElements(element)) {
         // A colour without an index has no place, so its index starts out of range.
         GradientColor color{ ~0UL, 0 };
-        if (NameOf(child) != "color")
+        if (!IsNamed(child, "color"))
             continue;
         LoadRows({ child }, kGradientColor, color);
         if (color.index < production.m_gradientColors.size())

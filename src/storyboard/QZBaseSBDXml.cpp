@@ -39,7 +39,7 @@ void LoadSections(const xmlNode* production, Storyboard& sbd)
 {
     for (xmlNode* child : ChildElements(FindChildElement(production, kSections))) {
         Section section;
-        if (NameOf(child) != kSection)
+        if (!IsNamed(child, kSection))
             continue;
         LoadRows({ child }, kSectionRows, section);
         (void)sbd.AddSection(section.start, section.end); // can't fail
@@ -136,7 +136,7 @@ void LoadPanels(xmlNode* element, Storyboard& sbd)
 {
     const auto load = [&](const char* name, auto read) {
         for (xmlNode* child : ChildElements(element)) {
-            if (NameOf(child) != name)
+            if (!IsNamed(child, name))
                 continue;
             WholePtr<CBaseObjectImpl> panel = read(child, sbd);
             (void)panel->put_ID(sbd.NextID()); // behind those of what lies on it
@@ -163,7 +163,7 @@ void SaveGroups(const MemberPlace& place, const char* name, const Storyboard& sb
 void LoadGroups(xmlNode* element, Storyboard& sbd)
 {
     for (xmlNode* child : ChildElements(element)) {
-        if (NameOf(child) == kGroup)
+        if (IsNamed(child, kGroup))
             (void)sbd.AddGroup(KeyOf(child))->LoadXML(child); // it stays with what it read
     }
 }

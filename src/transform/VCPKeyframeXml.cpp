@@ -52,7 +52,7 @@ Status LoadMap(Map& keys, const char* name, _xmlNode* track)
 {
     Status result = status::kOk;
     for (xmlNode* element : ChildElements(FindChildElement(track, name))) {
-        if (NameOf(element) != "KeyFrame")
+        if (!IsNamed(element, "KeyFrame"))
             continue;
         double time = 0.0;
         typename Map::mapped_type key{}; // without "Caps" no axis may be adjusted

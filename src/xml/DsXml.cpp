@@ -120,7 +120,8 @@ _xmlNode* IXMLDOMElement::selectSingleNode(unsigned char* expression)
     if (IsElement(this) && IsPlainName(expression))
         return FindChildElement(this, Chars(expression));
     const XmlObjectPtr result = Evaluate(*this, expression);
-    return result ? result->nodesetval->nodeTab[0] : nullptr;
+    xmlNode* const first = result ? result->nodesetval->nodeTab[0] : nullptr;
+    return first && first->type == XML_NAMESPACE_DECL ? nullptr : first; // one goes with the result
 }
 
 _xmlNodeSet* IXMLDOMElement::selectNodes(unsigned char* expression)
@@ -132,7 +133,7 @@ _xmlNodeSet* IXMLDOMElement::selectNodes(unsigned char* expression)
 
     XmlNodeSetPtr found;
     for (xmlNode* child : ChildElements(this)) {
-        if (child->ns || NameOf(child) != Chars(expression))
+        if (!IsNamed(child, Chars(expression)))
             continue;
         if (!found)
             found.reset(xmlXPathNodeSetCreate(nullptr));

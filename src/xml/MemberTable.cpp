@@ -25,8 +25,8 @@ void PrefetchBehind(const xmlNode* element)
 const char* MemberName(const MemberPlace& place, const xmlNode* element, std::string& store)
 {
     if (place.elementNames)
-        return Chars(element->name);
-    if (NameOf(element) != "member")
+        return element->ns ? nullptr : Chars(element->name);
+    if (!IsNamed(element, "member"))
         return nullptr;
     const string_view name = AttributeText(element, "Name", store);
     if (name.data() != store.data())

@@ -1,7 +1,6 @@
 #include "xml/TypedElement.h"
 
 #include "core/XmlText.h"
-#include "xml/DsXml.h"
 #include "xml/XmlPtr.h"
 #include "xml/XmlValue.h"
 
@@ -41,28 +40,19 @@ xmlNode* FindTypedElement(xmlNode* parent, string_view path, string_view name)
 {
     if (!parent)
         return nullptr;
-    const auto walk = [parent](string_view steps) {
-        string text(steps);
-        return AsNode(parent)->selectSingleNode(reinterpret_cast<unsigned char*>(text.data()));
-    };
     if (name.empty())
-        return walk(path);
+        return FindElementAt(parent, path);
 
     const std::size_t slash = path.rfind('/');
     const bool nested = slash != string_view::npos;
     string store;
-    for (xmlNode* child : ChildElements(nested ? walk(path.substr(0, slash)) : parent)) {
-        if (NameOf(child) == path.substr(nested ? slash + 1 : 0) &&
+    for (xmlNode* child :
+         ChildElements(nested ? FindElementAt(parent, path.substr(0, slash)) : parent)) {
+        if (IsNamed(child, path.substr(nested ? slash + 1 : 0)) &&
             AttributeText(child, "Name", store) == name)
             return child;
     }
     return nullptr;
-}
-
-string_view ElementText(const xmlNode* element)
-{
-    const xmlNode* first = IsElement(element) ? element->children : nullptr;
-    return first && first->type == XML_TEXT_NODE && first->content ? Chars(first->content) : "";
 }
 
 string_view AttributeText(const xmlNode* element, string_view name, string& store)

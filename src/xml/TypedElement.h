@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/Status.h"
+#include "xml/XmlValue.h"
 
 #include <libxml/tree.h>
 
@@ -24,9 +25,24 @@ xmlNode* AddTypedElement(xmlNode* parent, const char* element, std::string_view 
 /// `name` the first that bears it as "Name". Null when there is none.
 xmlNode* FindTypedElement(xmlNode* parent, std::string_view path, std::string_view name);
 
-/// An element's value: its first child's text, and empty when that is something else. A view into
-/// the document.
-std::string_view ElementText(const xmlNode* element);
+/// An element's value: all text that stands right in it, CDATA sections and entities included, with
+/// comments and whatever else passed over. A view into the document, or of its own when the text had
+/// to be put together: valid while this lives.
+class ElementText
+{
+public:
+    explicit ElementText(const xmlNode* element)
+        : m_view(ResolvedText(IsElement(element) ? element->children : nullptr, m_store))
+    {}
+    ElementText(const ElementText&) = delete;
+    ElementText& operator=(const ElementText&) = delete;
+
+    operator std::string_view() const { return m_view; }
+
+private:
+    std::string m_store;
+    std::string_view m_view;
+};
 
 /// The attribute of that name without namespace; empty when it is missing. The view is into the
 /// document, or into `store` when the text had to be put together.

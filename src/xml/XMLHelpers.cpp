@@ -23,7 +23,8 @@ template <class Kind>
 Status SaveScalar(xmlNode* parent, const string& node, const string& name,
                   const typename Kind::Value& value)
 {
-    return Added(AddValue<Kind>(parent, node.c_str(), value, name));
+    return Added(IsName(node.c_str()) ? AddValue<Kind>(parent, node.c_str(), value, name)
+                                      : nullptr);
 }
 
 template <class Kind>
@@ -38,7 +39,7 @@ Status LoadScalar(xmlNode* parent, const string& node, const string& name,
 
 bool NamesAttribute(const XMLHelpers<void>::Attributes::value_type& entry)
 {
-    return xmlValidateName(XmlChars(entry.first.c_str()), 0) == 0;
+    return IsName(entry.first.c_str());
 }
 
 } // namespace
@@ -46,7 +47,9 @@ bool NamesAttribute(const XMLHelpers<void>::Attributes::value_type& entry)
 Status XMLHelpers<void>::SaveNode(_xmlNode* parent, string node, string name, string type,
                                   string value, _xmlNode** out)
 {
-    xmlNode* element = AddTypedElement(parent, node.c_str(), name, type.c_str(), value);
+    xmlNode* element = IsName(node.c_str())
+                           ? AddTypedElement(parent, node.c_str(), name, type.c_str(), value)
+                           : nullptr;
     if (element && out)
         *out = element;
     return Added(element);
@@ -60,10 +63,9 @@ Status XMLHelpers<void>::LoadNode(_xmlNode* parent, string node, string name, st
     xmlNode* element = FindTypedElement(parent, node, name);
     if (!element)
         return status::kNothingDone;
-    const bool hasText =
-        IsElement(element) && element->children && element->children->type == XML_TEXT_NODE;
-    if (value && hasText)
-        *value = ElementText(element);
+    const ElementText text(element);
+    if (value && !std::string_view(text).empty())
+        *value = text;
     if (out)
         *out = element;
     return status::kOk;
@@ -72,7 +74,7 @@ Status XMLHelpers<void>::LoadNode(_xmlNode* parent, string node, string name, st
 Status XMLHelpers<void>::SaveNode(_xmlNode* parent, string node, Attributes& attributes,
                                   _xmlNode** out)
 {
-    if (!parent || node.empty())
+    if (!parent || !IsName(node.c_str()))
         return status::kBadArgument;
     XmlNodePtr element{ xmlNewDocNode(parent->doc, nullptr, XmlChars(node.c_str()), nullptr) };
     const Status saved = SaveAttributes(element.get(), attributes);
@@ -100,6 +102,8 @@ Status XMLHelpers<void>::SaveAttributes(_xmlNode* node, Attributes& attributes)
 {
     if (!node || !std::ranges::all_of(attributes, NamesAttribute))
         return status::kBadArgument;
+    for (const auto& [name, value] : attributes)
+        xmlUnsetProp(node, XmlChars(name.c_str())); // a second one would be no XML
     for (const auto& [name, value] : attributes)
         (void)AddAttribute(node, name.c_str(), value); // fails for want of memory alone
     return status::kOk;
@@ -171,7 +175,7 @@ Status XMLHelpers<void>::SaveUUIDNode(_xmlNode* parent, string node, string name
 Status XMLHelpers<void>::SaveBlobNode(_xmlNode* parent, string node, string name, char* data,
                                       unsigned long size)
 {
-    if (!data && size > 0)
+    if ((!data && size > 0) || !IsName(node.c_str()))
         return status::kBadArgument;
     string text;
     typed::AppendBlob(text, data, size);
@@ -243,7 +247,7 @@ Status XMLHelpers<void>::LoadBlobNode(_xmlNode* parent, string node, string name
 Status XMLHelpers<void>::SaveD3DVECTOR3Node(_xmlNode* parent, string node, string name,
                                             D3DXVECTOR3* value)
 {
-    if (!value)
+    if (!value || !IsName(node.c_str()))
         return status::kBadArgument;
     xmlNode* element = AddElement(parent, node.c_str());
     if (!element)
@@ -307,7 +311,7 @@ Status XMLHelpers<void>::RemoveNode(_xmlNode* parent, string name)
     Status result = status::kNothingDone;
     xmlNode* child = NextElement(name.empty() ? nullptr : parent->children);
     while (child) {
-        const XmlNodePtr found{ NameOf(child) == name ? child : nullptr };
+        const XmlNodePtr found{ IsNamed(child, name) ? child : nullptr };
         child = NextElement(child->next);
         if (!found)
             continue;

@@ -67,10 +67,20 @@ xmlNode* NextElement(xmlNode* node)
 xmlNode* FindChildElement(const xmlNode* parent, std::string_view name)
 {
     for (xmlNode* child : ChildElements(parent)) {
-        if (!child->ns && NameOf(child) == name)
+        if (IsNamed(child, name))
             return child;
     }
     return nullptr;
+}
+
+xmlNode* FindElementAt(xmlNode* parent, std::string_view path)
+{
+    while (parent && !path.empty()) {
+        const std::size_t slash = path.find('/');
+        parent = FindChildElement(parent, path.substr(0, slash));
+        path = slash == std::string_view::npos ? std::string_view() : path.substr(slash + 1);
+    }
+    return parent;
 }
 
 const xmlAttr* FindAttribute(const xmlNode* element, std::string_view name)

@@ -4,6 +4,7 @@
 #include "xml/XmlPtr.h"
 
 #include <libxml/tree.h>
+#include <libxml/valid.h>
 
 #include <string>
 #include <string_view>
@@ -24,6 +25,12 @@ inline const char* Chars(const xmlChar* text)
     return reinterpret_cast<const char*>(text);
 }
 
+/// True for what XML allows as the name of an element or attribute.
+inline bool IsName(const char* text)
+{
+    return xmlValidateName(XmlChars(text), 0) == 0;
+}
+
 /// A node's own name without prefix; empty for null.
 inline std::string_view NameOf(const xmlNode* node)
 {
@@ -33,6 +40,13 @@ inline std::string_view NameOf(const xmlNode* node)
 inline bool IsElement(const xmlNode* node)
 {
     return node && node->type == XML_ELEMENT_NODE;
+}
+
+/// True for an element of that name in no namespace: what the name test of a path takes. All code
+/// that looks for elements of a project file asks this, so that foreign content is never mistaken.
+inline bool IsNamed(const xmlNode* node, std::string_view name)
+{
+    return IsElement(node) && !node->ns && NameOf(node) == name;
 }
 
 /// `node` or the first of its later siblings that is an element, or null.
@@ -72,6 +86,10 @@ private:
 
 /// The first child element of that name without a namespace, or null.
 xmlNode* FindChildElement(const xmlNode* parent, std::string_view name);
+
+/// The element at the "/"-separated `path` below `parent`, always the first of each name; with an
+/// empty path `parent` itself. Null when there is none.
+xmlNode* FindElementAt(xmlNode* parent, std::string_view path);
 
 /// The attribute of that name without a namespace, or null.
 const xmlAttr* FindAttribute(const xmlNode* element, std::string_view name);

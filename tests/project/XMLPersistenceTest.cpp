@@ -41,6 +41,14 @@ public:
     NamelessNode() : CDSList(eNodeNone) {}
 };
 
+/// A node that asks for a name that no element can have.
+class MisnamedNode : public CDSList
+{
+public:
+    MisnamedNode() : CDSList(eNodeTitles) {}
+    string GetObjectTagName() override { return "a b"; }
+};
+
 /// A command that can't be read, and one that can't be written.
 class BrokenCommand : public CDiscCommandNode
 {
@@ -141,4 +149,8 @@ TEST(Persistor, StopsAtTheFirstNodeThatCannotBeWritten)
     EXPECT_EQ(persistor.Traverse(&last, 0), status::kOk);
     EXPECT_EQ(xmlChildElementCount(xml.root()), 2UL); // beside the list: the place is kept
     EXPECT_EQ(CXMLPersistor().Traverse(&last, 0), status::kNullPointer);
+    MisnamedNode misnamed;
+    list.InsertChild(&misnamed, 1, false);
+    EXPECT_EQ(persistor.Traverse(&list, 0), status::kBadArgument);
+    EXPECT_EQ(xmlChildElementCount(xml.root()), 2UL); // before anything is written
 }

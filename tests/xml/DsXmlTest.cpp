@@ -114,6 +114,7 @@ TEST(SelectByExpression, StaysInsideTheElement)
     EXPECT_EQ(IdOf(second->selectSingleNode(Query("b"))), "2");
     EXPECT_EQ(IdOf(second->selectSingleNode(Query("b[2]"))), "3");
     EXPECT_EQ(second->getNodeQueryString(Query("b")), "/r/a[2]/b");
+    EXPECT_EQ(second->selectSingleNode(Query("namespace::*")), nullptr); // none of the tree's nodes
 }
 
 TEST(SelectByExpression, AnExpressionThatCannotBeEvaluatedIsReported)

@@ -84,7 +84,7 @@ TEST(XMLHelpers, ReadsNumbersAsTheCLibraryDoes)
 {
     EXPECT_EQ(Loaded(Helpers::LoadLongNode, "12abc", 5L), 12);
     EXPECT_EQ(Loaded(Helpers::LoadLongNode, "", 5L), 0);
-    EXPECT_EQ(Loaded(Helpers::LoadLongNode, "<c/>12", 5L), 0); // only the first child counts
+    EXPECT_EQ(Loaded(Helpers::LoadLongNode, "<c/>12", 5L), 12); // wherever the text stands
     // Negative numbers that were written as unsigned ones come back as they were.
     EXPECT_EQ(Loaded(Helpers::LoadLongNode, "18446744073709551615", 5L), -1);
     EXPECT_EQ(Loaded(Helpers::LoadULongNode, "18446744073709551615", 5UL), ~0UL);
@@ -173,6 +173,18 @@ TEST(XMLHelpers, NameSelectsAmongElements)
     EXPECT_EQ(Helpers::LoadLongNode(xml.root(), "a/v", "z", &value), status::kNothingDone);
 }
 
+TEST(XMLHelpers, ForeignContentHidesNothing)
+{
+    const XmlText xml{ "<!DOCTYPE P [<!ENTITY e '3'>]><P xmlns:x='urn:x'><x:a><v>0</v></x:a><?a b?>"
+                       "<a><x:v Name='n'>1</x:v><?v 1?><v x:Name='n'>2</v><v x:Name='m' Name='n'>"
+                       "<!-- 9 -->1<![CDATA[2]]>&e;<x:v>8</x:v></v></a></P>" };
+    long value = 0;
+    EXPECT_EQ(Helpers::LoadLongNode(xml.root(), "a/v", "n", &value), status::kOk);
+    EXPECT_EQ(value, 123); // all text that stands in the element itself
+    EXPECT_EQ(Helpers::LoadLongNode(xml.root(), "a/v", "", &value), status::kOk);
+    EXPECT_EQ(value, 2);
+}
+
 TEST(XMLHelpers, VectorsWithoutAComponentHaveZeroThere)
 {
     const XmlText xml{ "<P><v><y>2.5</y></v></P>" };
@@ -193,8 +205,19 @@ TEST(XMLHelpers, AttributesComeAndGoThroughAMap)
     EXPECT_EQ(Helpers::LoadNode(xml.root(), "v", wanted, nullptr), status::kOk);
     EXPECT_EQ(wanted, (Helpers::Attributes{ { "b", "2 \"<" }, { "missing", "" } }));
 
+    EXPECT_EQ(Helpers::SaveAttributes(element, written), status::kOk);
+    EXPECT_EQ(TextOf(element), "<v a=\"1\" b=\"2 &quot;&lt;\"/>"); // replaced
+
     Helpers::Attributes bad = { { "a b", "1" } };
-    EXPECT_EQ(Helpers::SaveNode(xml.root(), "w", bad, nullptr), status::kBadArgument);
+    D3DXVECTOR3 vector(1.0F, 2.0F, 3.0F);
+    char byte = 1;
+    for (const Status refused : { Helpers::SaveNode(xml.root(), "w", bad, nullptr),
+                                  Helpers::SaveNode(xml.root(), "1w", written, nullptr),
+                                  Helpers::SaveNode(xml.root(), "w<", "", "string", "", nullptr),
+                                  Helpers::SaveLongNode(xml.root(), "w w", "", 1),
+                                  Helpers::SaveBlobNode(xml.root(), "", "", &byte, 1),
+                                  Helpers::SaveD3DVECTOR3Node(xml.root(), "-w", "", &vector) })
+        EXPECT_EQ(refused, status::kBadArgument);
     EXPECT_EQ(xml.root()->last, element); // nothing was attached
 }
 
