@@ -12,7 +12,7 @@ Json Facts(const CDiscCommandNode& command)
     (void)command.GetCommandParams(params);
     const bool named = params.code >= 0 && params.code < std::ssize(arCmdTags);
     return { { "code", params.code },
-             { "name", named ? arCmdTags[params.code] : std::string_view() },
+             { "name", named ? arCmdTags[params.code] : "" },
              { "param1", params.param1 },
              { "param2", params.param2 } };
 }

@@ -50,6 +50,15 @@ Json ButtonFacts(CDSMenuButton& button)
     return facts;
 }
 
+Json TemplateFact(const CDSMenu& menu)
+{
+    string path;
+    bool missing = false;
+    if (menu.GetTemplateFile(&path, &missing) != vantrel::status::kOk)
+        return {};
+    return { { "path", path }, { "missing", missing } };
+}
+
 Json Facts(CDSMenu& menu)
 {
     using M = CDSMenu;
@@ -60,6 +69,7 @@ Json Facts(CDSMenu& menu)
     facts["flags"] = AskFlags(menu, &M::get_Flags, FormatMenuFlag);
     facts["native"] = menu.IsNative();
     facts["background"] = Ask<string>(menu, &M::get_Background);
+    facts["templateFile"] = TemplateFact(menu);
     facts["audio"] = Ask<string>(menu, &M::get_Audio);
     facts["duration"] = NumberFact(Ask<double>(menu, &M::get_Duration));
     facts["templateID"] = Ask<long>(menu, &M::get_TemplateID);
@@ -124,6 +134,8 @@ void ShowMenus(Page& page, const Json& menus)
                                   menu["native"] ? "native" : "" }));
         page.Detail("Template", Reference(menu["templateID"]));
         page.Detail("Background", string(menu["background"]));
+        if (const Json& file = menu["templateFile"]; file.is_object() && file["missing"])
+            page.Detail("Missing", string(file["path"]) + ", the template of its storyboard");
         page.Detail("Audio", string(menu["audio"]));
         page.Detail("Duration", NumberText(menu["duration"]) + " s");
         page.Detail("Encoding", EncodingText(menu["encoding"]));

@@ -65,13 +65,31 @@ bool ResolveFilePath(string* path)
     return false;
 }
 
-bool UnresolveFilePath(string* path)
+bool UnresolveFilePath(string* path, const string& document)
 {
-    const std::size_t found = path ? path->find(kContentFolder) : string::npos;
-    if (found == string::npos)
+    const std::size_t found = document.find(kContentFolder);
+    if (!path || found == string::npos)
         return false;
-    path->replace(0, found + kContentFolder.size() - 1, kContentToken);
+    const std::string_view folder =
+        std::string_view(document).substr(0, found + kContentFolder.size());
+    if (!path->starts_with(folder))
+        return false;
+    path->replace(0, folder.size() - 1, kContentToken);
     return true;
 }
 
 } // namespace Utils
+
+bool vantrel::IsAbsolutePath(std::string_view path)
+{
+    if (path.empty())
+        return false;
+    const auto isLetter = [](char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); };
+    return path[0] == '/' || path[0] == '\\' ||
+           (path.size() > 1 && path[1] == ':' && isLetter(path[0]));
+}
+
+bool vantrel::HasContentToken(std::string_view path)
+{
+    return path.find(Utils::kContentToken) <= 1;
+}

@@ -3,6 +3,7 @@
 #include "core/Export.h"
 
 #include <string>
+#include <string_view>
 
 /// Questions about the paths that projects and themes hold. Paths are plain text.
 namespace Utils {
@@ -28,8 +29,20 @@ VANTREL_API bool HasString(std::string text, std::string part);
 /// gives false.
 VANTREL_API bool ResolveFilePath(std::string* path);
 
-/// The way back for a file of a theme: everything up to the first "/Content" that is followed by a
-/// "/" becomes "%CONTENT%", and the answer is true. Any other path stays, and gives false.
-VANTREL_API bool UnresolveFilePath(std::string* path);
+/// The way back for a file in the content folder of the document at `document`: the folder becomes
+/// "%CONTENT%", its separator stays, and the answer is true. Any other path stays, that of another
+/// theme too, and gives false; so does every path without a document.
+VANTREL_API bool UnresolveFilePath(std::string* path, const std::string& document = {});
 
 } // namespace Utils
+
+namespace vantrel {
+
+/// True for a path that says by itself where a file is: one that begins with "/", with a backslash,
+/// or with a drive letter and ":". A stored path of any other form is relative to a content folder.
+VANTREL_API bool IsAbsolutePath(std::string_view path);
+
+/// True when "%CONTENT%" stands where `Utils::ResolveFilePath` takes it away.
+VANTREL_API bool HasContentToken(std::string_view path);
+
+} // namespace vantrel

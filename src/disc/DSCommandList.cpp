@@ -44,7 +44,7 @@ Status CDiscCommandNode::SetCommandParams(const DiscCommandParams& in)
 string CDiscCommandNode::GetObjectTagName()
 {
     const auto code = static_cast<std::size_t>(m_params.code); // a negative one is out of range too
-    return code < std::size(arCmdTags) ? string(arCmdTags[code]) : string();
+    return code < std::size(arCmdTags) ? arCmdTags[code] : "";
 }
 
 Status CDiscCommandNode::ReadXML(IXMLDOMNode* node)

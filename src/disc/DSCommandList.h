@@ -5,7 +5,6 @@
 
 #include <cstdint>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace vantrel {
@@ -14,7 +13,7 @@ class AttributeTable;
 }
 
 /// The name of each command code, which is its element name too.
-inline constexpr std::string_view arCmdTags[10] = {
+inline constexpr const char* arCmdTags[10] = {
     "",
     "PlayTitleFromChapter",
     "PlayMenu",

@@ -41,19 +41,23 @@ constexpr AttributeRow<CDSMenu> Hex32(const char* name)
              } };
 }
 
-/// A path, held in the form of the machine at hand.
-template <auto Field>
+/// A path, held in the form of the machine at hand. `InContent` remembers that the file had it below
+/// "%CONTENT%", so that a save says so again.
+template <auto Field, auto InContent>
 constexpr AttributeRow<CDSMenu> FilePath(const char* name)
 {
     return { name,
              [](const CDSMenu& menu, string& text) {
                  text = menu.*Field;
-                 (void)Utils::UnresolveFilePath(&text); // a path outside a theme stays
+                 if (menu.*InContent)
+                     text.insert(0, "%CONTENT%");
+                 else
+                     (void)Utils::UnresolveFilePath(&text, menu.DocumentPath()); // others stay
              },
              [](CDSMenu& menu, string_view text) {
                  menu.*Field = text;
-                 if (!text.empty())
-                     (void)Utils::ResolveFilePath(&(menu.*Field)); // has no failure to tell
+                 menu.*InContent = HasContentToken(text);
+                 (void)Utils::ResolveFilePath(&(menu.*Field)); // has no failure to tell
              } };
 }
 
@@ -73,8 +77,9 @@ AttributeTable<CDSMenu> CDSMenu::Attributes()
         Decimal<&CDSMenu::m_defaultButton>("defaultButton"), // a file may name what put_ refuses
         Text<&CDSMenu::m_label>("label"),
         Decimal<&CDSMenu::m_contentCount>("contentCount").ReadOnly(),
-        FilePath<&CDSMenu::m_background>("background").If(native),
-        FilePath<&CDSMenu::m_audio>("audio").If(native),
+        FilePath<&CDSMenu::m_background, &CDSMenu::m_isBackgroundInContent>("background")
+            .If(native),
+        FilePath<&CDSMenu::m_audio, &CDSMenu::m_isAudioInContent>("audio").If(native),
         Real<&CDSMenu::m_duration>("duration").If(native));
     return { rows, FinishReading };
 }
@@ -144,13 +149,26 @@ Status CDSMenu::LoadBkngProdFromPVTX(string file)
     string path = DocumentPath();
     (void)Utils::GetContentPath(&path); // never says anything
     path += file;
+    m_templateFile = path;
 
     const CProjectNode* list = GetParent();
     const auto* project = dynamic_cast<CDSProjectData*>(list ? list->GetParent() : nullptr);
     MenuTemplates* shared = project ? project->m_templates.get() : nullptr;
     const XmlDocPtr doc = shared ? shared->Copy(path) : ReadTemplate(path);
+    m_isTemplateMissing = !doc;
     // Without a document there is no root, and the storyboard stays as it is.
     (void)m_production->LoadProductionFromXML(xmlDocGetRootElement(doc.get()));
+    return status::kOk;
+}
+
+Status CDSMenu::GetTemplateFile(string* path, bool* missing) const
+{
+    if (!path || !missing)
+        return status::kNullPointer;
+    if (m_templateFile.empty())
+        return status::kNothingDone;
+    *path = m_templateFile;
+    *missing = m_isTemplateMissing;
     return status::kOk;
 }
 
@@ -189,6 +207,7 @@ Status CDSMenu::put_DefaultButton(long id)
 Status CDSMenu::put_BkgndID(long value)
 {
     m_background.clear();
+    m_isBackgroundInContent = false;
     return Take(m_bkgndID, value);
 }
 
@@ -206,6 +225,7 @@ Status CDSMenu::put_Background(string value)
         return status::kNullPointer;
     if (m_native) {
         m_background = std::move(value);
+        m_isBackgroundInContent = false;
         m_bkgndID = 0;
     } else {
         (void)setSbdBkgndVideo(m_production.get(), value, false); // told by the next get_

@@ -57,6 +57,10 @@ public:
     /// that the menu was read from. A template that can't be read leaves the storyboard as it was.
     /// Gives 0.
     vantrel::Status LoadBkngProdFromPVTX(std::string file);
+
+    /// The template that the menu wanted last, and whether it was missing or could not be read, so
+    /// that the storyboard is not its own. 1, with nothing touched, for a menu that wanted none.
+    vantrel::Status GetTemplateFile(std::string* path, bool* missing) const;
     /// @}
 
     /// @name Properties
@@ -160,4 +164,8 @@ private:
     long m_templateID = 0;
     long m_contentCount = 0;
     std::unique_ptr<CQZBaseSBD> m_production;
+    bool m_isBackgroundInContent = false; ///< the file has it below "%CONTENT%"
+    bool m_isAudioInContent = false;
+    std::string m_templateFile; ///< wanted last
+    bool m_isTemplateMissing = false;
 };

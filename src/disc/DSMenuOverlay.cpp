@@ -208,7 +208,7 @@ Status CDSMenuOverlay::get_Source(string* out)
 {
     string source;
     (void)getSource(&source); // the output is there
-    return Give(out, ContentFolder() + source);
+    return Give(out, IsAbsolutePath(source) ? source : ContentFolder() + source);
 }
 
 Status CDSMenuOverlay::put_Source(string value)
@@ -216,7 +216,7 @@ Status CDSMenuOverlay::put_Source(string value)
     const string folder = ContentFolder();
     if (value.starts_with(folder))
         value.erase(0, folder.size());
-    return setSource(std::move(value));
+    return setSource(CMenuOverlayImpl::StoredSource(std::move(value)));
 }
 
 Status CDSMenuOverlay::get_AlphaMask(string* out)

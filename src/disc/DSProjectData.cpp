@@ -37,10 +37,34 @@ AttributeTable<CDSProjectData> CDSProjectData::Attributes()
 CDSProjectData::CDSProjectData()
     : CProjectNode(eNodeProject, kFormOf<CDSProjectData, &CDSProjectData::Attributes>)
 {
+    InitProjectProps();
     (void)FinalConstruct(); // fails only where the constructor would have thrown
 }
 
 CDSProjectData::~CDSProjectData() = default;
+
+void CDSProjectData::InitProjectProps()
+{
+    m_label.clear();
+    m_displayName.clear();
+    m_discFormat = DiscFormat::DVD_Video;
+    m_tvStandard = TVStandard::NTSC;
+    m_isOnDisc = false;
+    m_fitToDisc = false;
+    m_doCompression = true;
+    m_options = 0;
+    m_onDiscSize = 0;
+    m_remainingCaptures = -1;
+    m_themeSource.clear();
+    m_discSize = DiscSizeEnum::DVD_47;
+    m_discVideoType = DiscVideoType::Normal_2D;
+    m_volumeName = "KELDODISC";
+    m_projectDirectory.clear();
+    m_targetType = 1;
+    m_imagePath.clear();
+    m_targetDrive.clear();
+    m_projectSize = 0;
+}
 
 Status CDSProjectData::FinalConstruct()
 {

@@ -33,6 +33,8 @@ public:
     CDSProjectData();
     ~CDSProjectData() override;
 
+    /// Gives every setting its default again; the constructor has done so already.
+    void InitProjectProps();
     /// Makes the fixed children. The constructor has done so already.
     vantrel::Status FinalConstruct();
     /// Nothing is to be let go.
@@ -191,7 +193,9 @@ public:
     /// Numbers count from 1. A number outside gives `status::kNoSuchObject`, a null pointer that is
     /// needed `status::kNullPointer`; nothing is changed then.
     ///
-    /// An added node stays the caller's, or whose it was; one without an ID gets one. Its place is
+    /// An added node stays the caller's, or whose it was; one without an ID gets one, and so does a
+    /// title or menu whose ID another node of the project has: an application then changes what it
+    /// holds of the old ID (links, commands, template IDs) to the new one. Its place is
     /// among those that the list has: 0 and count + 1 append. A node is removed by pointer or, when
     /// that is null, by ID; it is detached, and one that the library owns lives until the project
     /// goes, so that no pointer dangles.
@@ -266,23 +270,23 @@ private:
 
     std::string m_label;
     std::string m_displayName; ///< "name"
-    DiscFormat m_discFormat = DiscFormat::DVD_Video;
-    TVStandard m_tvStandard = TVStandard::NTSC;
-    bool m_isOnDisc = false; ///< "onDiscProject"
-    bool m_fitToDisc = false;
-    bool m_doCompression = true;
-    unsigned long m_options = 0;
-    unsigned long m_onDiscSize = 0; ///< "onDiscSizeKB"
-    long m_remainingCaptures = -1;
+    DiscFormat m_discFormat;
+    TVStandard m_tvStandard;
+    bool m_isOnDisc; ///< "onDiscProject"
+    bool m_fitToDisc;
+    bool m_doCompression;
+    unsigned long m_options;
+    unsigned long m_onDiscSize; ///< "onDiscSizeKB"
+    long m_remainingCaptures;
     std::string m_themeSource;
-    DiscSizeEnum m_discSize = DiscSizeEnum::DVD_47;
-    DiscVideoType m_discVideoType = DiscVideoType::Normal_2D;
-    std::string m_volumeName = "KELDODISC";
+    DiscSizeEnum m_discSize;
+    DiscVideoType m_discVideoType;
+    std::string m_volumeName;
     std::string m_projectDirectory;
-    unsigned long m_targetType = 1;
+    unsigned long m_targetType;
     std::string m_imagePath;
     std::string m_targetDrive;
-    long m_projectSize = 0;
+    long m_projectSize;
     std::vector<std::unique_ptr<CProjectNode>> m_removed; ///< detached, but not to dangle
     std::unique_ptr<vantrel::MenuTemplates> m_templates;  ///< only during a load
 };

@@ -30,13 +30,12 @@ long PositionOf(long index)
     return index > 0 ? index - 1 : -1;
 }
 
+/// True for a template. A menu that is ordinary too is one to its project.
 bool IsTemplate(const CDSMenu& menu)
 {
-    constexpr auto kinds = static_cast<unsigned long>(MenuTypes::MainTemplate) |
-                           static_cast<unsigned long>(MenuTypes::ChapterTemplate);
     unsigned long tag = 0;
     (void)menu.get_Tag(&tag);
-    return (tag & kinds) != 0;
+    return (tag & kTemplateMenu) != 0 && (tag & kOrdinaryMenu) == 0;
 }
 
 } // namespace
@@ -223,7 +222,12 @@ Status CDSProjectData::AddTo(int position, long index, CProjectNode* node)
     if (index < 0 || index > count + 1L)
         return status::kNoSuchObject;
     const int place = index == 0 ? count : static_cast<int>(index) - 1;
-    return list->InsertChild(node, place, true) ? status::kOk : status::kBadArgument;
+    if (!list->InsertChild(node, place, true))
+        return status::kBadArgument;
+    const bool ownsStoryboard = position == kTitles || position == kMenus;
+    if (ownsStoryboard && IsTaken(node->GetID(), node))
+        node->SetID(GetNewID()); // two of one ID would share an element of the file
+    return status::kOk;
 }
 
 Status CDSProjectData::RemoveFrom(int position, long id, CProjectNode* node)

@@ -10,6 +10,8 @@
 #include "xml/XmlValue.h"
 
 #include <cstdio>
+#include <utility>
+#include <vector>
 
 using std::string;
 using std::string_view;
@@ -45,6 +47,58 @@ void FillLabel(CDSProjectData& project)
     }
 }
 
+/// What a save tells a project of its new place: taken back unless the save succeeds.
+class NewPlace
+{
+public:
+    explicit NewPlace(CDSProjectData& project) : m_project(project)
+    {
+        (void)project.get_ProjectDirectory(&m_formerDirectory);
+        (void)project.get_DisplayName(&m_formerName);
+    }
+    NewPlace(const NewPlace&) = delete;
+    NewPlace& operator=(const NewPlace&) = delete;
+    ~NewPlace()
+    {
+        if (m_kept)
+            return;
+        (void)m_project.put_ProjectDirectory(std::move(m_formerDirectory));
+        (void)m_project.put_DisplayName(std::move(m_formerName));
+    }
+    void Keep() { m_kept = true; }
+
+private:
+    CDSProjectData& m_project;
+    string m_formerDirectory;
+    string m_formerName;
+    bool m_kept = false;
+};
+
+/// The menus of a project as they are before a save takes templates out: put back unless it succeeds.
+class FormerMenus
+{
+public:
+    explicit FormerMenus(CDSProjectData& project) : m_list(project.FindChildByType(eNodeMenus, ""))
+    {
+        for (int i = 0; m_list && i < m_list->GetNumChildren(); ++i)
+            m_menus.push_back(m_list->GetChild(i));
+    }
+    FormerMenus(const FormerMenus&) = delete;
+    FormerMenus& operator=(const FormerMenus&) = delete;
+    ~FormerMenus()
+    {
+        for (std::size_t i = 0; i < m_menus.size(); ++i) {
+            if (m_menus[i]->GetParent() != m_list)
+                m_list->InsertChild(m_menus[i], static_cast<int>(i), false);
+        }
+    }
+    void Forget() { m_menus.clear(); }
+
+private:
+    CProjectNode* m_list;
+    std::vector<CProjectNode*> m_menus;
+};
+
 } // namespace
 
 Status CDSFileService::SaveProject(string path, CDSProjectData* project)
@@ -67,36 +121,47 @@ Status CDSFileService::Save(string path, CDSProjectData* project, FileWriter wri
     if (path.empty())
         return status::kBadArgument;
 
+    NewPlace place(*project);
     string directory;
     (void)Utils::GetDirectoryAndFileName(path, &directory, nullptr, nullptr);
     (void)project->put_ProjectDirectory(directory);
+    FormerMenus menus(*project);
     (void)RemoveUnusedTemplates(project); // what stays is saved
-    return WriteFile(path, project, write);
+    const Status written = WriteFile(path, *project, write);
+    if (Failed(written))
+        return written;
+    place.Keep();
+    menus.Forget();
+    return written;
 }
 
 Status CDSFileService::SaveProjectAux(string path, CDSProjectData* project)
 {
-    return WriteFile(path, project, WriteFileInPlace);
+    return project ? WriteFile(path, *project, WriteFileInPlace) : status::kNullPointer;
 }
 
-Status CDSFileService::WriteFile(const string& path, CDSProjectData* project, FileWriter write)
+Status CDSFileService::WriteFile(const string& path, CDSProjectData& project, FileWriter write)
 {
-    if (!project)
-        return status::kNullPointer;
     const XmlDocPtr doc = MakeProjectDocument();
     if (!doc)
         return status::kNullPointer;
+    NewPlace place(project);
     string name;
     (void)Utils::GetDirectoryAndFileName(path, nullptr, &name, nullptr);
-    (void)project->put_DisplayName(name);
+    (void)project.put_DisplayName(name);
     const XmlLoan loan(doc.get());
-    const Status built = WriteProjectXML(AsNode(xmlDocGetRootElement(doc.get())), project);
+    const Status built = WriteProjectXML(AsNode(xmlDocGetRootElement(doc.get())), &project);
     if (Failed(built))
         return built;
-    FillLabel(*project); // shows in the file from the next save on
-
     string bytes;
-    return SerializeXml(doc.get(), &bytes) ? write(path, bytes) : status::kUnwritableFile;
+    if (!SerializeXml(doc.get(), &bytes))
+        return status::kUnwritableFile;
+    const Status written = write(path, bytes);
+    if (Failed(written))
+        return written;
+    place.Keep();
+    FillLabel(project); // shows in the file from the next save on
+    return written;
 }
 
 Status CDSFileService::WriteProjectXML(IXMLDOMNode* root, CDSProjectData* project)

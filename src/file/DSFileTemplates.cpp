@@ -13,13 +13,6 @@ using namespace vantrel;
 
 namespace {
 
-constexpr unsigned long Bits(MenuTypes a, MenuTypes b)
-{
-    return static_cast<unsigned long>(a) | static_cast<unsigned long>(b);
-}
-constexpr unsigned long kOrdinary = Bits(MenuTypes::Main, MenuTypes::Chapter);
-constexpr unsigned long kTemplate = Bits(MenuTypes::MainTemplate, MenuTypes::ChapterTemplate);
-
 constexpr int kMostLinks = 3; // of a chain of templates that are followed from one start
 
 /// Which templates a project has, and which of them something refers to.
@@ -43,10 +36,10 @@ Templates FindTemplates(CDSProjectData& project)
         long madeFrom = 0;
         (void)menu->get_Tag(&tag);
         (void)menu->get_TemplateID(&madeFrom);
-        if (tag & kOrdinary) {
+        if (tag & kOrdinaryMenu) {
             if (madeFrom != 0)
                 templates.used.insert(madeFrom);
-        } else if ((tag & kTemplate) && menu->GetID() != 0) {
+        } else if ((tag & kTemplateMenu) && menu->GetID() != 0) {
             templates.made[menu->GetID()] = madeFrom;
         }
     }

@@ -93,12 +93,22 @@ Status CMenuOverlayImpl::getModelRect(vector<FPoint>& corners) const
     return status::kOk;
 }
 
+string CMenuOverlayImpl::StoredSource(string path)
+{
+    const bool isInContent = HasContentToken(path);
+    if (IsAbsolutePath(path) && !isInContent)
+        return path;                     // as it was put
+    (void)Utils::ResolveFilePath(&path); // has no failure to tell
+    if (isInContent)
+        path.erase(0, path.find_first_not_of('/')); // it is relative now
+    return path;
+}
+
 void CMenuOverlayImpl::ResolvePaths()
 {
-    for (string* path : { &m_source, &m_alphaMask }) {
-        if (!path->empty())
-            (void)Utils::ResolveFilePath(path); // has no failure to tell
-    }
+    m_source = StoredSource(std::move(m_source));
+    if (!m_alphaMask.empty())
+        (void)Utils::ResolveFilePath(&m_alphaMask);
 }
 
 AttributeTable<CMenuOverlayImpl> CMenuOverlayImpl::Attributes()

@@ -17,7 +17,7 @@ public:
     vantrel::Status getSize(float* width, float* height) const;
     vantrel::Status setSize(float width, float height);
 
-    /// A path below the content folder of a theme.
+    /// A path below the content folder of a theme, or an absolute one.
     vantrel::Status getSource(std::string* out) const;
     vantrel::Status setSource(std::string value);
     vantrel::Status getAlphaMask(std::string* out) const;
@@ -50,6 +50,9 @@ protected:
 
     /// Makes paths that a file brought those of this machine.
     void ResolvePaths();
+
+    /// A source as it is held: relative without "%CONTENT%", with "/"; an absolute one as it is.
+    static std::string StoredSource(std::string path);
 
 private:
     static vantrel::AttributeTable<CMenuOverlayImpl> Attributes();

@@ -5,6 +5,7 @@
 #include "xml/DsXml.h"
 
 #include <string>
+#include <string_view>
 
 class CDSMenu;
 class CDSProjectData;
@@ -22,8 +23,8 @@ public:
     /// Saves a project over the file at `path`, in place; a "file::" in front of it is cut off.
     ///
     /// Takes templates that nothing uses out of the project (`RemoveUnusedTemplates`), and sets the
-    /// project's directory and display name, and its label if that is empty. The new content
-    /// is complete in memory and room for it reserved before the file is touched, so that a file that
+    /// project's directory and display name, and its label if that is empty; a save that fails leaves
+    /// the project as it was. The new content is complete in memory and room for it reserved before the file is touched, so that a file that
     /// can't be opened and a full disk leave the old one as it was. Gives `status::kNullPointer` for a
     /// null project, `status::kBadArgument` for an empty path and `status::kUnwritableFile` when the
     /// file can't be opened, written or closed.
@@ -86,7 +87,7 @@ public:
 private:
     using FileWriter = vantrel::Status (*)(const std::string& path, std::string_view bytes);
     vantrel::Status Save(std::string path, CDSProjectData* project, FileWriter write);
-    vantrel::Status WriteFile(const std::string& path, CDSProjectData* project, FileWriter write);
+    vantrel::Status WriteFile(const std::string& path, CDSProjectData& project, FileWriter write);
     void WriteStoryboards(CDSProjectData& project, _xmlNode* productions);
     void ReadStoryboards(CDSProjectData& project, _xmlNode* productions);
 };

@@ -183,3 +183,12 @@ enum class MenuTypes : std::int32_t
     ChapterTemplate = 8,
     Transition = 16,
 };
+
+namespace vantrel {
+
+/// Bits of a menu's tag: a menu that the disc shows, and one that others are made from. A menu with
+/// both is one that the disc shows.
+inline constexpr unsigned long kOrdinaryMenu = 3;
+inline constexpr unsigned long kTemplateMenu = 12;
+
+} // namespace vantrel

@@ -17,6 +17,18 @@ using namespace vantrel;
 
 unsigned long CProjectNode::sm_dwNextID = 1;
 
+namespace {
+
+/// True for nodes whose ID a file holds. The others' are of this process alone.
+bool HasLastingID(eNodeType type)
+{
+    constexpr eNodeType kinds[] = { eNodeFile,    eNodeTitle, eNodeMenu,
+                                    eNodeOverlay, eNodeText,  eNodeButton };
+    return std::ranges::find(kinds, type) != std::end(kinds);
+}
+
+} // namespace
+
 CProjectNode::CProjectNode(eNodeType type) : m_type(type)
 {}
 
@@ -80,14 +92,14 @@ Status CProjectNode::ReadXML(IXMLDOMNode* node)
 
 bool CProjectNode::ParseResString(string source, string* out)
 {
-    if (DocumentPath().empty())
+    if (!m_documentPath)
         return false;
     if (!m_pResLoader)
         m_pResLoader = std::make_unique<CResourceLoader>();
     constexpr std::string_view table = "ThemeStrings.xml";
     string file;
-    file.reserve(DocumentPath().size() + table.size());
-    file = DocumentPath();
+    file.reserve(m_documentPath->size() + table.size());
+    file = *m_documentPath;
     (void)Utils::GetContentPath(&file); // a path without a content folder has no table beside it
     file += table;
     (void)m_pResLoader->InitWithXmlFile(file.c_str()); // tables that came earlier may still serve
@@ -165,6 +177,8 @@ bool CProjectNode::Link(CProjectNode* child, std::size_t position, bool assignID
     m_children.insert(m_children.begin() + static_cast<std::ptrdiff_t>(position), child);
     child->m_parent = this;
     child->m_holder = this;
+    child->m_idCounts.reset(); // no root any more
+    Root().Count(*child, 1);
     if (assignID && child->m_id == 0)
         child->SetID(GetNewID());
     return true;
@@ -187,9 +201,11 @@ std::vector<std::unique_ptr<CProjectNode>> CProjectNode::ReleaseChildren(
     const std::function<bool(CProjectNode&)>& which)
 {
     std::vector<std::unique_ptr<CProjectNode>> owned;
+    CProjectNode& root = Root();
     std::erase_if(m_children, [&](CProjectNode* child) {
         if (!which(*child))
             return false;
+        root.Count(*child, -1);
         child->m_holder = nullptr;
         child->m_parent = nullptr;
         if (std::exchange(child->m_owned, false))
@@ -201,6 +217,7 @@ std::vector<std::unique_ptr<CProjectNode>> CProjectNode::ReleaseChildren(
 
 void CProjectNode::Detach(CProjectNode* child)
 {
+    Root().Count(*child, -1);
     m_children.erase(std::find(m_children.begin(), m_children.end(), child));
     child->m_holder = nullptr;
     child->m_parent = nullptr;
@@ -245,11 +262,50 @@ CProjectNode* CProjectNode::FindChildByID(unsigned long id, int* index)
     return *found;
 }
 
+CProjectNode& CProjectNode::Root()
+{
+    CProjectNode* node = this;
+    while (node->m_holder)
+        node = node->m_holder;
+    return *node;
+}
+
+/// Counts `added` and all below it so many times, in a root that counts.
+void CProjectNode::Count(const CProjectNode& added, long number)
+{
+    if (!m_idCounts)
+        return;
+    std::vector<const CProjectNode*> waiting{ &added }; // no recursion: a tree may be deep
+    while (!waiting.empty()) {
+        const CProjectNode* node = waiting.back();
+        waiting.pop_back();
+        if (HasLastingID(node->m_type))
+            (*m_idCounts)[node->m_id] += number;
+        waiting.insert(waiting.end(), node->m_children.begin(), node->m_children.end());
+    }
+}
+
+bool CProjectNode::IsTaken(long id, const CProjectNode* but)
+{
+    CProjectNode& root = Root();
+    if (!root.m_idCounts) {
+        root.m_idCounts = std::make_unique<IDCounts>();
+        root.Count(root, 1);
+    }
+    const auto found = root.m_idCounts->find(id);
+    const long own = but && but->m_id == id && but->HangsBelow(&root) ? 1 : 0;
+    return found != root.m_idCounts->end() && found->second > own;
+}
+
 void CProjectNode::SetID(long id)
 {
+    if (CProjectNode& root = Root(); root.m_idCounts && HasLastingID(m_type)) {
+        --(*root.m_idCounts)[m_id];
+        ++(*root.m_idCounts)[id];
+    }
     m_id = id;
     const auto next = static_cast<unsigned long>(id) + 1;
-    if (next > sm_dwNextID) // an ID without a successor gives 0 here
+    if (id >= 0 && next > sm_dwNextID)
         sm_dwNextID = next;
 }
 
@@ -266,10 +322,18 @@ void CProjectNode::SetName(string name)
     m_name = std::move(name);
 }
 
+const string& CProjectNode::GetName() const
+{
+    return m_name;
+}
+
 const string& CProjectNode::DocumentPath() const
 {
     static const string none;
-    return m_documentPath ? *m_documentPath : none;
+    const CProjectNode* node = this;
+    while (node && !node->m_documentPath)
+        node = node->m_parent;
+    return node ? *node->m_documentPath : none;
 }
 
 void CProjectNode::KeepDocumentPath(const _xmlDoc* doc)
@@ -277,7 +341,7 @@ void CProjectNode::KeepDocumentPath(const _xmlDoc* doc)
     if (!doc || !doc->URL)
         return;
     const char* path = Chars(doc->URL);
-    if (m_parent && m_parent->DocumentPath() == path)
+    if (m_parent && m_parent->m_documentPath && *m_parent->m_documentPath == path)
         m_documentPath = m_parent->m_documentPath; // a project has many nodes and one path
     else
         m_documentPath = std::make_shared<const string>(path);

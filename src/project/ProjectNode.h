@@ -9,6 +9,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 class CResourceLoader;
@@ -127,15 +128,25 @@ public:
     /// 0 means none yet.
     long GetID() const { return m_id; }
 
-    /// Stores the ID and raises the counter above it. An ID that has no successor leaves the counter
-    /// alone. Duplicates are not looked for.
+    /// Stores the ID and raises the counter above it; one below 0 leaves the counter alone. Duplicates
+    /// are not looked for.
     void SetID(long id);
 
     /// Hands out the next ID.
     static long GetNewID();
 
+    /// True when a node of this one's tree other than `but` has that ID and takes it to a file: a
+    /// title, menu, data file, button, text or overlay. The first question counts the tree; what is
+    /// linked, taken out or renumbered later is counted along.
+    bool IsTaken(long id, const CProjectNode* but);
+
     /// A free name for the application's use.
     void SetName(std::string name);
+    const std::string& GetName() const;
+
+    /// The absolute path of the document that the node was last read from, or else the nearest of its
+    /// parents; empty for what was made in memory.
+    const std::string& DocumentPath() const;
     /// @}
 
     /// The ID that is handed out next, in the whole process. Starts at 1 and is never reset.
@@ -147,13 +158,12 @@ protected:
     /// again, so that its overrides count.
     CProjectNode(eNodeType type, const vantrel::NodeForm& form);
 
-    /// The path of the document that the node was last read from, as the caller gave it.
-    const std::string& DocumentPath() const;
-
 private:
     bool Link(CProjectNode* child, std::size_t position, bool assignID);
     void Detach(CProjectNode* child);
     bool HangsBelow(const CProjectNode* node) const;
+    CProjectNode& Root();
+    void Count(const CProjectNode& added, long number);
     void KeepDocumentPath(const _xmlDoc* doc);
     vantrel::Status ReadAttributesByMap(const _xmlNode* element);
 
@@ -167,4 +177,6 @@ private:
     CProjectNode* m_parent = nullptr;      ///< not owned
     CProjectNode* m_holder = nullptr;      ///< whose list this node stands in; not owned
     const vantrel::NodeForm* m_form = nullptr;
+    using IDCounts = std::unordered_map<long, long>;
+    std::unique_ptr<IDCounts> m_idCounts; ///< of a root: how many nodes have each ID
 };

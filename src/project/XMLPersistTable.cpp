@@ -56,14 +56,15 @@ const XMLPersistEntry* FirstEntry(Test isWanted)
 
 } // namespace
 
-const XMLPersistEntry* FindEntry(eNodeType type)
+XMLPersistEntry* FindEntry(eNodeType type)
 {
-    return FirstEntry([type](const auto& row) { return row.nodeType == type; });
+    return const_cast<XMLPersistEntry*>(
+        FirstEntry([type](const auto& row) { return row.nodeType == type; }));
 }
 
-const XMLPersistEntry* FindEntry(string element)
+XMLPersistEntry* FindEntry(string element)
 {
-    return vantrel::FindElement(element);
+    return const_cast<XMLPersistEntry*>(vantrel::FindElement(element));
 }
 
 const XMLPersistEntry* vantrel::FindElement(string_view element)

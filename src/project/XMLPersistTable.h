@@ -20,8 +20,8 @@ inline constexpr int numEntries = 30;
 /// written.
 VANTREL_API extern const XMLPersistEntry xmlPersistTable[numEntries];
 
-/// The first row of that type, or null.
-VANTREL_API const XMLPersistEntry* FindEntry(eNodeType type);
+/// The first row of that type, or null. A row is not to be changed.
+VANTREL_API XMLPersistEntry* FindEntry(eNodeType type);
 
 /// The row of that name, or null.
-VANTREL_API const XMLPersistEntry* FindEntry(std::string element);
+VANTREL_API XMLPersistEntry* FindEntry(std::string element);

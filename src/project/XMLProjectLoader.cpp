@@ -6,11 +6,9 @@
 #include "xml/XmlValue.h"
 
 #include <memory>
-#include <string_view>
 #include <utility>
 
 using std::string;
-using std::string_view;
 using namespace vantrel;
 
 namespace {
@@ -43,16 +41,19 @@ CDSXMLDataLoader::CDSXMLDataLoader(CProjectNode* root) : m_pRoot(root)
 
 Status CDSXMLDataLoader::LoadProject(IXMLDOMNode* element)
 {
-    (void)Walk(element, nullptr, "Productions"); // a bad element spoils no more than itself
+    // A bad element spoils no more than itself. The root of a file may have any name.
+    if (FindElement(NameOf(element)) == FindElement("Project")) {
+        (void)Traverse(element, nullptr);
+        return status::kOk;
+    }
+    for (xmlNode* child : ChildElements(element)) {
+        if (NameOf(child) != "Productions")
+            (void)Traverse(AsNode(child), nullptr);
+    }
     return status::kOk;
 }
 
 Status CDSXMLDataLoader::Traverse(IXMLDOMNode* element, CProjectNode* parent)
-{
-    return Walk(element, parent, "");
-}
-
-Status CDSXMLDataLoader::Walk(IXMLDOMNode* element, CProjectNode* parent, const char* passedOver)
 {
     if (!element)
         return status::kNothingDone;
@@ -68,10 +69,8 @@ Status CDSXMLDataLoader::Walk(IXMLDOMNode* element, CProjectNode* parent, const 
         return status::kNothingDone;
     if (row && row->bLeaf)
         return status::kOk;
-    for (xmlNode* child : ChildElements(element)) {
-        if (NameOf(child) != string_view(passedOver))
-            (void)Walk(AsNode(child), node, "");
-    }
+    for (xmlNode* child : ChildElements(element))
+        (void)Traverse(AsNode(child), node);
     return status::kOk;
 }
 

@@ -6,10 +6,10 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <climits>
 #include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
+#include <filesystem>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -128,11 +128,26 @@ void SyncFolder(const string& folder)
         (void)::fsync(handle.get()); // not every file system can; the rename is done either way
 }
 
-/// Follows symbolic links; a path that leads nowhere yet stays as it is.
-string ResolveLinks(const string& path)
+/// Follows symbolic links, also one whose target is yet to be made.
+string ResolveLinks(string path)
 {
-    char resolved[PATH_MAX];
-    return ::realpath(path.c_str(), resolved) ? resolved : path;
+    constexpr int most = 40; // as the kernel does
+    std::error_code failed;
+    for (int followed = 0; followed < most; ++followed) {
+        const std::filesystem::path target = std::filesystem::read_symlink(path, failed);
+        if (failed)
+            return path;
+        path = target.is_absolute() ? target.string() : FolderOf(path) + target.string();
+    }
+    return path;
+}
+
+/// So that what is found beside a file is found whatever folder the process is in later.
+string AbsolutePath(const char* path)
+{
+    std::error_code failed;
+    const std::filesystem::path absolute = std::filesystem::absolute(path, failed);
+    return failed ? path : absolute.string();
 }
 
 bool WriteReplacement(int fd, const struct stat* old, string_view bytes)
@@ -149,9 +164,9 @@ bool WriteReplacement(int fd, const struct stat* old, string_view bytes)
 
 XmlDocPtr ReadXmlFile(const char* path)
 {
-    const FileHandle file = path ? Open(path, O_RDONLY) : FileHandle();
+    const FileHandle file = path ? Open(path, O_RDONLY | O_NONBLOCK) : FileHandle();
     struct stat info;
-    if (!file || ::fstat(file.get(), &info) != 0 || S_ISDIR(info.st_mode)) {
+    if (!file || ::fstat(file.get(), &info) != 0 || !S_ISREG(info.st_mode)) { // a pipe would block
         if (path)
             std::fprintf(stderr, "can't open \"%s\"\n", path);
         return nullptr;
@@ -160,13 +175,13 @@ XmlDocPtr ReadXmlFile(const char* path)
     const XmlParserPtr parser{ xmlNewParserCtxt() };
     if (!parser)
         return nullptr;
-    // The name serves libxml2's messages alone; the document must bear the path as it was given.
+    // The name serves libxml2's messages alone; the document bears the path without any escapes.
     // Compact: a short text lies within its node, which saves an allocation for most values.
     XmlDocPtr doc{ xmlCtxtReadFd(parser.get(), file.get(), path, nullptr,
                                  XML_PARSE_NONET | XML_PARSE_COMPACT) };
     if (doc) {
         const XmlTextPtr escaped{ std::exchange(const_cast<xmlChar*&>(doc->URL),
-                                                xmlStrdup(XmlChars(path))) };
+                                                xmlStrdup(XmlChars(AbsolutePath(path).c_str()))) };
     }
     return doc;
 }

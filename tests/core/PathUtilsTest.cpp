@@ -60,17 +60,23 @@ TEST(ResolveFilePath, MakesAPathOfThisMachine)
     }
 }
 
-TEST(UnresolveFilePath, PutsTheTokenBackForAFileOfATheme)
+TEST(UnresolveFilePath, PutsTheTokenBackForAFileOfTheDocumentsTheme)
 {
+    const std::string document = "/themes/Beach/Content/Content/a.xml";
     std::string path = "/themes/Beach/Content/Content/a.mpg";
-    EXPECT_TRUE(Utils::UnresolveFilePath(&path));
+    EXPECT_TRUE(Utils::UnresolveFilePath(&path, document));
     EXPECT_EQ(path, "%CONTENT%/Content/a.mpg"); // the first folder of that name counts
     Utils::ResolveFilePath(&path);
     EXPECT_EQ(path, "/Content/a.mpg");
 
-    std::string other = "/media/Contents/a.mpg";
-    EXPECT_FALSE(Utils::UnresolveFilePath(&other));
-    EXPECT_EQ(other, "/media/Contents/a.mpg");
-    EXPECT_FALSE(Utils::UnresolveFilePath(nullptr));
+    for (const char* other :
+         { "/themes/Beach/Contents/a.mpg", "/themes/Hills/Content/a.mpg", "a.mpg" }) {
+        path = other;
+        EXPECT_FALSE(Utils::UnresolveFilePath(&path, document));
+        EXPECT_EQ(path, other);
+    }
+    path = "/themes/Beach/Content/a.mpg";
+    EXPECT_FALSE(Utils::UnresolveFilePath(&path)); // without a document nothing is its own
+    EXPECT_FALSE(Utils::UnresolveFilePath(nullptr, document));
     EXPECT_FALSE(Utils::ResolveFilePath(nullptr));
 }

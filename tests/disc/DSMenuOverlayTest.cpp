@@ -1,5 +1,6 @@
 #include "disc/DSMenuOverlay.h"
 
+#include "disc/DSMenuButton.h"
 #include "support/MenuFixture.h"
 #include "xml/XmlFile.h"
 
@@ -32,32 +33,54 @@ TEST(Overlay, ReadsTheZoomOfTheSourceUnderTwoNames)
     }
 }
 
-TEST(Overlay, HasItsSourceBelowTheContentFolder)
+TEST(Overlay, HasRelativeSourcesBelowTheContentFolder)
 {
     const ScratchFolder folder;
     const string content = folder / "Content/";
     std::filesystem::create_directories(content + "Content");
-    CDSMenuOverlay inMemory, fromFile;
-    for (CDSMenuOverlay* overlay : { &inMemory, &fromFile }) {
-        const string path = content + "Content/a.xml";
-        if (overlay == &fromFile) {
-            WriteFile(path, R"x(<O source="%CONTENT%\p\a.png" alphaMask="m\b.png"/>)x");
-            const XmlDocPtr doc = ReadXmlFile(path.c_str());
-            EXPECT_EQ(overlay->Read(AsNode(xmlDocGetRootElement(doc.get()))), status::kOk);
-        } else {
-            EXPECT_EQ(overlay->put_Source("/p/a.png"), status::kOk);
-            EXPECT_EQ(overlay->put_AlphaMask("m/b.png"), status::kOk);
+    const string path = content + "Content/a.xml";
+    WriteFile(path, R"x(<P><O source="%CONTENT%\p\a.png" alphaMask="m\b.png"/></P>)x");
+    const XmlDocPtr doc = ReadXmlFile(path.c_str());
+    xmlNode* const root = xmlDocGetRootElement(doc.get());
+    CDSMenuButton parent; // read from the file, as `fromFile` is, while `child` is not
+    CDSMenuOverlay inMemory, fromFile, child;
+    EXPECT_EQ(fromFile.Read(AsNode(root->children)), status::kOk);
+    (void)parent.Read(AsNode(root));
+    parent.GetChild(3)->AddChild(&child, true);
+
+    string source, mask;
+    EXPECT_EQ(fromFile.get_AlphaMask(&mask), status::kOk);
+    EXPECT_EQ(mask, "m/b.png");
+    EXPECT_EQ(fromFile.get_Source(&source), status::kOk);
+    EXPECT_EQ(source, content + "p/a.png");
+    const struct
+    {
+        string put;
+        string inFile;
+        string shown; ///< behind the content folder unless absolute
+    } cases[] = {
+        { "p/a.png", "p/a.png", "p/a.png" },
+        { content + "p/a.png", "p/a.png", "p/a.png" },
+        { "%CONTENT%/p/a.png", "p/a.png", "p/a.png" },
+        { "/p/a.png", "/p/a.png", "/p/a.png" },
+        { "C:\\p\\a.png", "C:\\p\\a.png", "C:\\p\\a.png" },
+        { "\\\\server\\a.png", "\\\\server\\a.png", "\\\\server\\a.png" },
+    };
+    for (const auto& c : cases) {
+        for (CDSMenuOverlay* overlay : { &inMemory, &fromFile, &child }) {
+            if (overlay == &inMemory && c.put.starts_with(content))
+                continue; // it knows of no folder
+            SCOPED_TRACE(c.put);
+            EXPECT_EQ(overlay->put_Source(c.put), status::kOk);
+            const string written = WrittenNode(*overlay);
+            EXPECT_NE(written.find("source=\"" + c.inFile + '"'), string::npos) << written;
+            CDSMenuOverlay again;
+            EXPECT_EQ(ReadNode(again, written), status::kOk);
+            EXPECT_EQ(WrittenNode(again), written);
+            const bool isBelow = overlay != &inMemory && c.shown[0] == 'p';
+            EXPECT_EQ(overlay->get_Source(&source), status::kOk);
+            EXPECT_EQ(source, (isBelow ? content : "") + c.shown);
         }
-        const string front = overlay == &fromFile ? content : "";
-        string source, mask;
-        EXPECT_EQ(overlay->get_Source(&source), status::kOk);
-        EXPECT_EQ(source, front + "/p/a.png");
-        EXPECT_EQ(overlay->get_AlphaMask(&mask), status::kOk);
-        EXPECT_EQ(mask, "m/b.png");
-        EXPECT_EQ(overlay->put_Source(source), status::kOk); // the folder comes off again
-        EXPECT_EQ(overlay->get_Source(&source), status::kOk);
-        EXPECT_EQ(source, front + "/p/a.png");
-        EXPECT_NE(WrittenNode(*overlay).find(R"x(source="/p/a.png")x"), string::npos);
     }
 }
 

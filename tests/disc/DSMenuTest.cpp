@@ -161,9 +161,15 @@ TEST(Menu, ReadsAndWritesTheNativeFormOnRequest)
     }
     EXPECT_EQ(ReadNode(menu, "<Menu native='false' background='%CONTENT%\\a' duration='4'/>"),
               status::kOk); // any text but "0" is true
-    EXPECT_NE(WrittenNode(menu).find(R"x(background="/a" backgroundID="0")x"), string::npos);
+    string background;
+    EXPECT_EQ(menu.get_Background(&background), status::kOk);
+    EXPECT_EQ(background, "/a");
     EXPECT_EQ(ReadNode(menu, "<Menu native='1' audio='/x/Content/y.ac3'/>"), status::kOk);
-    EXPECT_NE(WrittenNode(menu).find(R"x(audio="%CONTENT%/y.ac3")x"), string::npos);
+    const string saved = WrittenNode(menu);
+    EXPECT_NE(saved.find(R"x(audio="/x/Content/y.ac3" background="%CONTENT%/a")x"), string::npos)
+        << saved; // the theme of another document is none of its own
+    EXPECT_EQ(ReadNode(menu, saved), status::kOk);
+    EXPECT_EQ(WrittenNode(menu), saved);
 }
 
 TEST(Menu, TellsItsBackgroundAndDuration)
@@ -206,7 +212,11 @@ TEST(NativeMenu, LoadsItsStoryboardFromTheTheme)
         CDSMenu& menu = MenuOf(project);
         EXPECT_EQ(StoryboardDuration(menu), 12.0) << folder;
         double duration = 0.0;
-        string video, version;
+        string video, version, file;
+        bool missing = true;
+        EXPECT_EQ(menu.GetTemplateFile(&file, &missing), status::kOk);
+        EXPECT_EQ(file, theme.content() + "/bg.pvtx");
+        EXPECT_FALSE(missing);
         EXPECT_EQ(menu.get_Duration(&duration), status::kOk);
         EXPECT_EQ(duration, 4.0);
         EXPECT_EQ(menu.get_Background(&video), status::kOk); // the storyboard's, for a template
@@ -253,6 +263,11 @@ TEST(NativeMenu, StaysUsableWithoutATemplate)
     for (long i = 1; i <= static_cast<long>(std::size(backgrounds)); ++i) {
         CDSMenu& menu = MenuOf(project, i);
         EXPECT_TRUE(menu.IsNative());
+        string file;
+        bool missing = false;
+        EXPECT_EQ(menu.GetTemplateFile(&file, &missing),
+                  i == 1 ? status::kNothingDone : status::kOk);
+        EXPECT_EQ(missing, i != 1 && i != 5 && i != 9) << file; // those are XML at least
         CQZBaseSBD* storyboard = nullptr;
         EXPECT_EQ(menu.GetProduction(&storyboard), status::kOk);
         EXPECT_EQ(getSbdDuration(storyboard), 0.0) << backgrounds[i - 1];

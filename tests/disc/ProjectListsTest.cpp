@@ -191,6 +191,45 @@ TEST(ProjectLists, HandOutTitlesAndMenusByNumber)
     EXPECT_EQ(gotMenu, nullptr); // a title is no menu
 }
 
+TEST(ProjectLists, GiveATitleOrMenuOfATakenIdANewOne)
+{
+    CDSProjectData project;
+    Load(project, "<Titles><Title ID='4'/></Titles><Menus><Menu ID='5'><Elements><Button ID='6'/>"
+                  "</Elements></Menu></Menus>");
+    CDSTitle title;
+    CDSMenu first, second;
+    const IdCounterGuard guard(20);
+    title.SetID(4);
+    first.SetID(6); // that of a button
+    second.SetID(7);
+    EXPECT_EQ(project.AddTitle(1, &title), status::kOk);
+    EXPECT_EQ(project.AddMenu(0, &first), status::kOk);
+    EXPECT_EQ(project.AddMenu(0, &second), status::kOk);
+    EXPECT_EQ(project.AddMenu(1, &second), status::kOk); // its own is not taken
+    EXPECT_EQ(IdsIn(*project.GetChild(0)), "20/4");
+    EXPECT_EQ(IdsIn(*project.GetChild(1)), "7/5/21");
+    EXPECT_EQ(project.RemoveMenu(5, nullptr), status::kOk); // with its button
+    first.SetID(8);
+    CDSMenu third;
+    third.SetID(6);
+    EXPECT_EQ(project.AddMenu(0, &third), status::kOk);
+    EXPECT_EQ(IdsIn(*project.GetChild(1)), "7/8/6");
+}
+
+TEST(ProjectLists, StartWithTheDefaultsOfTheirProject)
+{
+    CDSProjectData project;
+    string name = "x";
+    long captures = 0;
+    (void)project.put_VolumeName(name);
+    (void)project.put_RemainingCaptures(7);
+    project.InitProjectProps();
+    EXPECT_EQ(project.get_VolumeName(&name), status::kOk);
+    EXPECT_EQ(project.get_RemainingCaptures(&captures), status::kOk);
+    EXPECT_EQ(name, "KELDODISC");
+    EXPECT_EQ(captures, -1);
+}
+
 TEST(ProjectLists, FindAMenuByItsWholeTag)
 {
     CDSProjectData project;

@@ -76,12 +76,23 @@ TEST(TemplatePruning, HappensWithASaveAndLeavesPointersAlive)
     const ScratchFolder folder;
     CDSProjectData project;
     const XmlText xml{ "<Project><Titles><Title/></Titles><Menus><Menu tag='1'/>"
-                       "<Menu ID='7' tag='4'/></Menus></Project>" };
+                       "<Menu ID='7' tag='5'/><Menu ID='7' tag='4'/></Menus></Project>" };
     EXPECT_EQ(project.LoadXML(vantrel::AsNode(xml.root())), status::kOk);
     CProjectNode& menus = *project.GetChild(1);
-    CProjectNode* const pruned = menus.GetChild(1);
+    CProjectNode* const pruned = menus.GetChild(2); // the one before is ordinary too
+    string text;
+    (void)project.put_ProjectDirectory("former");
+    EXPECT_EQ(CDSFileService().SaveProject(folder / "none/a.xml", &project),
+              status::kUnwritableFile);
+    EXPECT_EQ(menus.GetChild(2), pruned); // a save that fails leaves the project as it was
+    (void)project.get_DisplayName(&text);
+    EXPECT_EQ(text, "");
+    (void)project.get_Label(&text);
+    EXPECT_EQ(text, "");
+    (void)project.get_ProjectDirectory(&text);
+    EXPECT_EQ(text, "former");
     EXPECT_EQ(CDSFileService().SaveProject(folder / "a.xml", &project), status::kOk);
-    EXPECT_EQ(menus.GetNumChildren(), 1);
+    EXPECT_EQ(menus.GetNumChildren(), 2);
     EXPECT_EQ(pruned->GetType(), eNodeMenu);
     EXPECT_EQ(CDSFileService().RemoveUnusedTemplates(nullptr), status::kNullPointer);
 }

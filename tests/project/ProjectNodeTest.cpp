@@ -76,6 +76,8 @@ TEST(NodeIds, FollowTheCounter)
     EXPECT_EQ(known.GetID(), 3);
     EXPECT_EQ(unasked.GetID(), 0);
     EXPECT_EQ(CProjectNode::GetNewID(), 6);
+    known.SetName("a name");
+    EXPECT_EQ(known.GetName(), "a name");
 }
 
 TEST(NodeIds, RaiseTheCounterAboveThem)
@@ -85,7 +87,7 @@ TEST(NodeIds, RaiseTheCounterAboveThem)
         unsigned long before;
         long id;
         unsigned long after;
-    } cases[] = { { 5, 100, 101 }, { 100, 100, 101 }, { 101, 3, 101 }, { 7, -1, 7 } };
+    } cases[] = { { 5, 100, 101 }, { 100, 100, 101 }, { 101, 3, 101 }, { 7, -1, 7 }, { 7, -5, 7 } };
     for (const auto& c : cases) {
         const IdCounterGuard guard(c.before);
         ProbeNode node;

@@ -109,6 +109,9 @@ TEST(StringTableFile, FailuresAreReportedAndLeaveTheTables)
     EXPECT_EQ(load(nullptr), std::pair(false, string()));
     EXPECT_EQ(load(missing.c_str()),
               std::pair(false, "can not loader resource file: " + missing + "\n"));
+    const string pipe = folder / "pipe.xml";
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0); // opened, it would wait for a writer
+    EXPECT_EQ(load(pipe.c_str()), std::pair(false, "can not loader resource file: " + pipe + "\n"));
     WriteFile(path, "<s/>");
     EXPECT_EQ(load(path.c_str()), std::pair(false, string("empty root element")));
     EXPECT_EQ(Resolve(loader, "stringRef:t.k"), "text");
@@ -169,6 +172,14 @@ TEST(NodeStringReference, GoesThroughTheThemeOfTheNodesDocument)
     EXPECT_EQ(out, "Words");
     EXPECT_FALSE(node.ParseResString("Arial", &out));
     EXPECT_EQ(out, "Arial");
+
+    const std::filesystem::path former = std::filesystem::current_path();
+    for (const char* relative : { "Content/sub/menu.xml", "ThemeStrings.xml" }) {
+        std::filesystem::current_path(relative[0] == 'C' ? folder / "Theme" : content);
+        read(relative);
+        std::filesystem::current_path(former); // where it is asked plays no part
+        EXPECT_TRUE(node.ParseResString("stringRef:t.k", &out)) << relative;
+    }
 }
 
 } // namespace

@@ -69,7 +69,10 @@ TEST(PersistTable, FirstRowOfATypeAndExactNames)
     for (const char* name : { "text", "Root", "TEXT", "", "Titles ", "Zzz" })
         EXPECT_EQ(FindEntry(name), nullptr) << name;
     for (std::size_t code = 1; code < std::size(arCmdTags); ++code)
-        EXPECT_EQ(FindEntry(string(arCmdTags[code]))->nodeType, eNodeCommand);
+        EXPECT_EQ(FindEntry(arCmdTags[code])->nodeType, eNodeCommand);
+    XMLPersistEntry* entry = FindEntry(eNodeTitle); // callers hold it so, and names as strings
+    const string name = arCmdTags[2];
+    EXPECT_EQ(entry->strElement + name, "TitlePlayMenu");
 }
 
 TEST(Loader, FillsTheTreeAndRaisesTheIdCounter)
@@ -87,10 +90,10 @@ TEST(Loader, FillsTheTreeAndRaisesTheIdCounter)
 
 TEST(Loader, ReadsEveryProjectElementOverTheRootButTheProductions)
 {
-    for (const char* text :
-         { "<Project label='b'/>", "<R><Project label='a'/><x><Project label='b'/></x></R>",
-           "<R><Project label='b'/><Productions><k><Project label='kept'/></k>"
-           "</Productions></R>" })
+    for (const char* text : { "<Project label='b'/>", "<File><Project label='b'/></File>",
+                              "<R><Project label='a'/><x><Project label='b'/></x></R>",
+                              "<R><Project label='b'/><Productions><k><Project label='kept'/></k>"
+                              "</Productions></R>" })
         EXPECT_EQ(LoadedProject(text).label(), "b") << text;
 }
 

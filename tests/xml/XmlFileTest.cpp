@@ -140,4 +140,9 @@ TEST(ReplaceFile, KeepsTheModeAndFollowsASymbolicLink)
     ASSERT_EQ(stat((folder / "real.xml").c_str(), &info), 0);
     EXPECT_EQ(info.st_mode & 07777, 0640U);
     EXPECT_EQ(FilesIn(folder), 2U);
+
+    std::filesystem::remove(folder / "real.xml"); // the link leads nowhere now
+    ASSERT_EQ(ReplaceFile(folder / "link.xml", "again"), status::kOk);
+    EXPECT_TRUE(std::filesystem::is_symlink(folder / "link.xml"));
+    EXPECT_EQ(ReadFile(folder / "real.xml"), "again");
 }
