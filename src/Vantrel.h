@@ -5,6 +5,7 @@
 
 #include "core/Export.h"
 #include "core/Matrix.h"
+#include "core/Message.h"
 #include "core/PathUtils.h"
 #include "core/Property.h"
 #include "core/Status.h"

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/Export.h"
+
 #include <cstdint>
 
 // Headers of a window system are known to define such words as macros, which no namespace keeps out.
@@ -52,6 +54,9 @@ constexpr bool Failed(Status result)
 {
     return result < 0;
 }
+
+/// A status in words, as "the file can't be written"; never null, and never to be released.
+VANTREL_API const char* Describe(Status result) noexcept;
 
 } // namespace vantrel
 

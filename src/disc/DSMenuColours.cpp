@@ -1,11 +1,12 @@
 #include "disc/DSMenuColours.h"
 
 #include "core/Property.h"
+#include "core/Report.h"
 #include "project/NodeForm.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <iterator>
+#include <string>
 
 using std::map;
 using std::string;
@@ -57,7 +58,7 @@ void DeriveEmphasis2(SPUColourInfo& info)
 
 void ReportMissingEntry(std::size_t entry)
 {
-    std::printf("ParsePaletteAttributes: No entry! (%d)\n", static_cast<int>(entry));
+    Report("ParsePaletteAttributes: No entry! (", std::to_string(entry), ")\n");
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "core/Number.h"
 #include "core/PathUtils.h"
+#include "core/Report.h"
 #include "core/Version.h"
 #include "disc/DSProjectData.h"
 #include "xml/KeptXml.h"
@@ -9,7 +10,6 @@
 #include "xml/XmlPtr.h"
 #include "xml/XmlValue.h"
 
-#include <cstdio>
 #include <utility>
 #include <vector>
 
@@ -184,12 +184,12 @@ Status CDSFileService::LoadProject(const char* path, CDSProjectData* project)
         return status::kNullPointer;
     const XmlDocPtr doc = ReadXmlFile(path);
     if (!doc) {
-        std::printf("LoadProject: could not parse file %s\n", path);
+        Report("LoadProject: could not parse file ", path, "\n");
         return status::kUnreadableFile;
     }
     xmlNode* root = xmlDocGetRootElement(doc.get());
     if (!root) {
-        std::printf("LoadProject: empty document");
+        Report("LoadProject: empty document");
         return status::kNullPointer;
     }
     if (ReadVersion(AsElement(root)) < kOldestFileVersion)

@@ -1,9 +1,9 @@
 #include "project/AttributeSlots.h"
 
+#include "core/Report.h"
 #include "xml/XmlValue.h"
 
 #include <algorithm>
-#include <cstdio>
 
 namespace vantrel {
 
@@ -72,7 +72,7 @@ Status AddReportedAttribute(xmlNode* element, const char* name, const std::strin
 {
     const Status added = AddAttribute(element, name, value);
     if (Failed(added))
-        std::printf("Failed on attribute: %s\n", name);
+        Report("Failed on attribute: ", name, "\n");
     return added;
 }
 

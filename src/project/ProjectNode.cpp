@@ -2,13 +2,13 @@
 
 #include "core/PathUtils.h"
 #include "core/Property.h"
+#include "core/Report.h"
 #include "project/AttributeSlots.h"
 #include "project/NodeForm.h"
 #include "project/ResourceLoader.h"
 #include "xml/XmlValue.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <utility>
 
 using std::map;
@@ -138,7 +138,7 @@ Status CProjectNode::WriteNodeAttributes(IXMLDOMNode* node, const map<string, st
         return status::kBadArgument;
     for (const auto& [name, value] : attributes) {
         if (!IsName(name.c_str())) {
-            std::printf("Failed on attribute: %s\n", name.c_str());
+            Report("Failed on attribute: ", name, "\n");
             return status::kNullPointer;
         }
         (void)xmlUnsetProp(node, XmlChars(name.c_str())); // the same name twice would be no XML

@@ -1,12 +1,12 @@
 #include "project/ResourceLoader.h"
 
 #include "core/Property.h"
+#include "core/Report.h"
 #include "xml/XmlFile.h"
 #include "xml/XmlValue.h"
 
 #include <algorithm>
 #include <chrono>
-#include <cstdio>
 #include <optional>
 #include <string_view>
 #include <sys/stat.h>
@@ -86,12 +86,12 @@ bool CResourceLoader::InitWithXmlFile(const char* path)
     const bool isSettled = stamp && IsSettled(*stamp);
     const XmlDocPtr doc = ReadXmlFile(path);
     if (!doc) {
-        std::printf("can not loader resource file: %s\n", path);
+        Report("can not loader resource file: ", path, "\n");
         return false;
     }
     _xmlNode* root = xmlDocGetRootElement(doc.get());
     if (!root) {
-        std::printf("empty document");
+        Report("empty document");
         return false;
     }
     if (!LoadStringTable(root))
@@ -119,7 +119,7 @@ void CResourceLoader::Adopt(const std::shared_ptr<const Tables>& tables)
 bool CResourceLoader::LoadStringTable(_xmlNode* root)
 {
     if (!IsElement(root) || !root->children) {
-        std::printf("empty root element");
+        Report("empty root element");
         return false;
     }
     const auto tables = std::make_shared<Tables>();

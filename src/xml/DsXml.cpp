@@ -1,11 +1,12 @@
 #include "xml/DsXml.h"
 
+#include "core/Report.h"
 #include "xml/XmlPtr.h"
+#include "xml/XmlReports.h"
 #include "xml/XmlValue.h"
 
 #include <libxml/xpathInternals.h>
 
-#include <cstdio>
 #include <cstring>
 #include <utility>
 
@@ -154,14 +155,15 @@ string IXMLDOMElement::getNodeQueryString(unsigned char* expression)
 
 _xmlXPathObject* IXMLDOMElement::getXPathObject(const unsigned char* query)
 {
+    const XmlReports reports;
     const XmlContextPtr context{ xmlXPathNewContext(doc) };
     if (!context) {
-        std::printf("getXPathObject: context is NULL\n");
+        Report("getXPathObject: context is NULL\n");
         return nullptr;
     }
     XmlObjectPtr result{ xmlXPathEvalExpression(query, context.get()) };
     if (!result) {
-        std::printf("getXPathObject: expression result is NULL\n");
+        Report("getXPathObject: expression result is NULL\n");
         return nullptr;
     }
     return result.release();

@@ -1,5 +1,7 @@
 #include "xml/XmlFile.h"
 
+#include "core/Report.h"
+#include "xml/XmlReports.h"
 #include "xml/XmlValue.h"
 
 #include <libxml/xmlsave.h>
@@ -160,6 +162,16 @@ bool WriteReplacement(int fd, const struct stat* old, string_view bytes)
     return WriteAll(fd, bytes) && ::fsync(fd) == 0;
 }
 
+void ReportUnopened(const char* path)
+{
+    const string text = string("can't open \"") + path + "\"\n";
+    Message message;
+    message.text = text;
+    message.path = path;
+    message.toStandardError = true;
+    MessageRoute::Current().Send(message);
+}
+
 } // namespace
 
 XmlDocPtr ReadXmlFile(const char* path)
@@ -168,10 +180,11 @@ XmlDocPtr ReadXmlFile(const char* path)
     struct stat info;
     if (!file || ::fstat(file.get(), &info) != 0 || !S_ISREG(info.st_mode)) { // a pipe would block
         if (path)
-            std::fprintf(stderr, "can't open \"%s\"\n", path);
+            ReportUnopened(path);
         return nullptr;
     }
 
+    const XmlReports reports;
     const XmlParserPtr parser{ xmlNewParserCtxt() };
     if (!parser)
         return nullptr;
@@ -188,6 +201,7 @@ XmlDocPtr ReadXmlFile(const char* path)
 
 bool SerializeXml(xmlDoc* doc, string* bytes)
 {
+    const XmlReports reports;
     bytes->clear();
     const auto append = [](void* out, const char* data, int size) {
         try {
