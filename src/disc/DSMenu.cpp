@@ -21,6 +21,8 @@ long g_MenuInstanceID = 0;
 
 namespace {
 
+constexpr const char* kTemplate = ".pvtx"; // in the name of a theme's template
+
 /// Positions of the fixed children that are asked for.
 enum : int
 {
@@ -149,12 +151,12 @@ Status CDSMenu::LoadBkngProdFromPVTX(string file)
     string path = DocumentPath();
     (void)Utils::GetContentPath(&path); // never says anything
     path += file;
-    m_templateFile = path;
 
     const CProjectNode* list = GetParent();
     const auto* project = dynamic_cast<CDSProjectData*>(list ? list->GetParent() : nullptr);
     MenuTemplates* shared = project ? project->m_templates.get() : nullptr;
     const XmlDocPtr doc = shared ? shared->Copy(path) : ReadTemplate(path);
+    m_templateFile = Utils::HasString(file, kTemplate) ? path : ""; // else it is a picture
     m_isTemplateMissing = !doc;
     // Without a document there is no root, and the storyboard stays as it is.
     (void)m_production->LoadProductionFromXML(xmlDocGetRootElement(doc.get()));
@@ -215,8 +217,8 @@ Status CDSMenu::get_Background(string* out) const
 {
     if (!out)
         return status::kNullPointer;
-    return Utils::HasString(m_background, ".pvtx") ? getSbdBkgndVideo(m_production.get(), out)
-                                                   : Give(out, m_background);
+    return Utils::HasString(m_background, kTemplate) ? getSbdBkgndVideo(m_production.get(), out)
+                                                     : Give(out, m_background);
 }
 
 Status CDSMenu::put_Background(string value)
