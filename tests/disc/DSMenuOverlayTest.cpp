@@ -4,6 +4,8 @@
 #include "support/MenuFixture.h"
 #include "xml/XmlFile.h"
 
+#include <gmock/gmock.h>
+
 #include <filesystem>
 
 using std::string;
@@ -84,16 +86,27 @@ TEST(Overlay, HasRelativeSourcesBelowTheContentFolder)
     }
 }
 
-TEST(Overlay, StartsWithAWholeSourceOfUnknownMask)
+TEST(Overlay, KeepsPairsApart)
 {
     CDSMenuOverlay overlay;
-    double a = 0, b = 0, crop[4] = {};
-    EXPECT_EQ(overlay.GetMaskSize(&a, &b), status::kOk);
-    EXPECT_EQ(a + b, -2.0);
-    EXPECT_EQ(overlay.GetSourceScale(&a, &b), status::kOk);
-    EXPECT_EQ(a + b, 2.0);
+    double mask[2] = {}, scale[2] = {}, crop[4] = {};
+    EXPECT_EQ(overlay.GetMaskSize(&mask[0], &mask[1]), status::kOk);
+    EXPECT_THAT(mask, testing::ElementsAre(-1, -1)); // not known
+    EXPECT_EQ(overlay.GetSourceScale(&scale[0], &scale[1]), status::kOk);
+    EXPECT_THAT(scale, testing::ElementsAre(1, 1));
     EXPECT_EQ(overlay.get_CropXYWH(&crop[0], &crop[1], &crop[2], &crop[3]), status::kOk);
-    EXPECT_EQ(crop[0] + crop[1] + crop[2] + crop[3], 2.0);
+    EXPECT_THAT(crop, testing::ElementsAre(0, 0, 1, 1));
+
+    EXPECT_EQ(overlay.SetMaskSize(2, 3), status::kOk);
+    EXPECT_EQ(overlay.SetSourceScale(4, 5), status::kOk);
+    EXPECT_EQ(ReadNode(overlay, "<O corpRectX='.1' corpRectY='.2' corpRectW='.3' corpRectH='.4'/>"),
+              status::kOk);
+    EXPECT_EQ(overlay.GetMaskSize(&mask[0], &mask[1]), status::kOk);
+    EXPECT_THAT(mask, testing::ElementsAre(2, 3));
+    EXPECT_EQ(overlay.GetSourceScale(&scale[0], &scale[1]), status::kOk);
+    EXPECT_THAT(scale, testing::ElementsAre(4, 5));
+    EXPECT_EQ(overlay.get_CropXYWH(&crop[0], &crop[1], &crop[2], &crop[3]), status::kOk);
+    EXPECT_THAT(crop, testing::ElementsAre(.1, .2, .3, .4));
     EXPECT_EQ(overlay.get_CropXYWH(&crop[0], nullptr, &crop[2], &crop[3]), status::kNullPointer);
 
     SourceTypes type = SourceTypes::None;
@@ -102,6 +115,8 @@ TEST(Overlay, StartsWithAWholeSourceOfUnknownMask)
     EXPECT_EQ(overlay.GetSourceType(&type, nullptr), status::kOk); // the type alone
     EXPECT_EQ(type, SourceTypes::Title);
     EXPECT_EQ(overlay.GetSourceType(nullptr, &id), status::kNullPointer);
+    EXPECT_EQ(overlay.GetSourceType(&type, &id), status::kOk);
+    EXPECT_EQ(id, 4);
 }
 
 TEST(Overlay, RefusesNegativePointsAndComparesNone)

@@ -216,20 +216,6 @@ TEST(ProjectLists, GiveATitleOrMenuOfATakenIdANewOne)
     EXPECT_EQ(IdsIn(*project.GetChild(1)), "7/8/6");
 }
 
-TEST(ProjectLists, StartWithTheDefaultsOfTheirProject)
-{
-    CDSProjectData project;
-    string name = "x";
-    long captures = 0;
-    (void)project.put_VolumeName(name);
-    (void)project.put_RemainingCaptures(7);
-    project.InitProjectProps();
-    EXPECT_EQ(project.get_VolumeName(&name), status::kOk);
-    EXPECT_EQ(project.get_RemainingCaptures(&captures), status::kOk);
-    EXPECT_EQ(name, "KELDODISC");
-    EXPECT_EQ(captures, -1);
-}
-
 TEST(ProjectLists, FindAMenuByItsWholeTag)
 {
     CDSProjectData project;

@@ -86,6 +86,11 @@ TEST(TransformXml, ReadsBackWhatItWrote)
     EXPECT_EQ(second.LoadXML(xml.root()), status::kOk);
     EXPECT_EQ(second.LoadXML(xml.root()), status::kOk); // keys that are there stay as they are
     EXPECT_EQ(Saved(second), text);
+    bool isSelectable = true, isEditable = false;
+    EXPECT_EQ(second.GetIsSelectable(&isSelectable), status::kOk);
+    EXPECT_EQ(second.GetIsEditable(&isEditable), status::kOk);
+    EXPECT_FALSE(isSelectable);
+    EXPECT_TRUE(isEditable);
     EXPECT_EQ(second.ReplaceXML(xml.root()), status::kOk);
     EXPECT_EQ(TextOf(xml.root()), text);
 }
