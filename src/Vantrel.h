@@ -53,7 +53,6 @@
 #include "storyboard/EffectInfo.h"
 #include "storyboard/EffectObject.h"
 #include "storyboard/GroupObj.h"
-#include "storyboard/KeptContent.h"
 #include "storyboard/MarkerData.h"
 #include "storyboard/MotionObject.h"
 #include "storyboard/NativeInfo.h"

@@ -1,7 +1,10 @@
 #include "storyboard/AudioInfo.h"
+#include "core/Number.h"
+#include "xml/KeptXml.h"
 #include "xml/MemberTable.h"
 
 #include <cmath>
+#include <iterator>
 
 using namespace vantrel;
 
@@ -44,8 +47,13 @@ void LoadNoiseFilter(xmlNode* element, Audio& audio)
 void SaveMixLevels(const MemberPlace& place, const char* name, const Audio& audio)
 {
     xmlNode* levels = AddMember(place, name);
-    for (const auto& [time, value] : audio.m_mixLevels)
-        SaveRows({ AddElement(levels, "level") }, kLevel, Level{ time, value });
+    for (auto level = audio.m_mixLevels.begin(); level != audio.m_mixLevels.end(); ++level) {
+        const auto next = std::next(level);
+        const bool isLast =
+            next == audio.m_mixLevels.end() || NumberText(next->first) != NumberText(level->first);
+        if (isLast && !std::isnan(level->first)) // of times that a file can't tell apart
+            SaveRows({ AddElement(levels, "level") }, kLevel, Level{ level->first, level->second });
+    }
 }
 
 void LoadMixLevels(xmlNode* element, Audio& audio)
@@ -76,6 +84,8 @@ void SaveEqualizer(const MemberPlace& place, const char* name, const Audio& audi
         if (model)
             (void)model->PersistToXML(AddElement(equalizer, "EqualizerModel"), true);
     }
+    for (const KeptXmlPtr& kept : audio.m_moreEqualizers)
+        (void)AppendKeptXml(equalizer, kept); // fails for want of memory alone
 }
 
 void LoadEqualizer(xmlNode* element, Audio& audio)
@@ -84,12 +94,16 @@ void LoadEqualizer(xmlNode* element, Audio& audio)
         return;
     LoadRows({ element }, kEqualizer, audio);
     audio.m_equalizers.clear();
+    audio.m_moreEqualizers.clear();
     for (xmlNode* child : ChildElements(element)) {
         if (!IsNamed(child, "EqualizerModel"))
             continue;
         auto model = std::make_unique<EQualizerModel>(child);
-        const long bands = model->m_bands;
-        audio.m_equalizers.emplace(bands, std::move(model)); // the first of a size stays
+        std::unique_ptr<EQualizerModel>& first = audio.m_equalizers[model->m_bands];
+        if (first)
+            audio.m_moreEqualizers.push_back(KeepXml(child)); // of a size that is there
+        else
+            first = std::move(model);
     }
 }
 

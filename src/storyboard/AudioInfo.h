@@ -3,12 +3,14 @@
 #include "core/Export.h"
 #include "core/Status.h"
 #include "storyboard/EQualizerModel.h"
+#include "xml/KeptXmlPtr.h"
 #include "xml/XMLWrapper.h"
 
 #include <cstdint>
 #include <map>
 #include <memory>
 #include <string>
+#include <vector>
 
 class CPersistObject;
 
@@ -39,6 +41,8 @@ public:
     std::string m_proxyFilterFile;
     std::string m_nativeFilterFile;
     CPersistObject* m_whole = nullptr; ///< the complete object that this is a part of, or null
+    /// Elements of further models with a number of bands that `m_equalizers` has.
+    std::vector<vantrel::KeptXmlPtr> m_moreEqualizers;
 };
 
 /// Persists audio data as "audioInfo".

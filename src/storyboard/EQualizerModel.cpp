@@ -12,7 +12,7 @@ using namespace vantrel;
 
 namespace {
 
-constexpr long kMostBands = 65'536;
+constexpr long kMostBands = 4'096;
 constexpr long kUsualLength = 2048; // of a file that doesn't tell
 constexpr std::string_view kBandPrefix = "Band_";
 

@@ -22,7 +22,7 @@ public:
 
     /// Null gives `status::kFailure`. Reading gives `status::kNothingDone` when the number of bands
     /// or the length is missing, and `status::kBadArgument`, without any arrays, for a number of
-    /// bands that is negative or above 65,536.
+    /// bands that is negative or above 4,096.
     vantrel::Status PersistToXML(_xmlNode* node, bool save);
 
     bool m_isValid; ///< the model was read, and every band made sense

@@ -34,6 +34,14 @@ void LoadData(xmlNode* element, Effect& effect)
     AddValue<typed::Uuid>(element->parent, "effectGUID", effect.m_effectGUID);
 }
 
+/// The kind as the next load has it: the data knows it better.
+void SaveKind(const MemberPlace& place, const char* name, const Effect& effect)
+{
+    _GUID kind = effect.m_effectGUID;
+    (void)XMLHelpers<void>::LoadUUIDNode(effect.m_data, "uuid", "", kind); // it may have none
+    AddValue<typed::Uuid>(place.node, name, kind);
+}
+
 void SaveAlphaFile(const MemberPlace& place, const char* name, const Effect& effect)
 {
     if (effect.m_alphaFile)
@@ -66,7 +74,7 @@ constexpr MemberRow<Effect> kEffectInfo[] = {
     { "effectID", SaveField<typed::ULong, &Effect::m_effectID>, nullptr },
     ULong<&Effect::m_layer>("layer"),
     ULong<&Effect::m_groupID>("GroupID"),
-    Uuid<&Effect::m_effectGUID>("effectGUID"),
+    { "effectGUID", SaveKind, LoadField<typed::Uuid, &Effect::m_effectGUID> },
     BoolOrFalse<&Effect::m_useOffset>("useOffset"),
     BoolOrFalse<&Effect::m_isPanZoom>("isPanZoom"),
     { "data", SaveData, LoadData },

@@ -1,5 +1,6 @@
 #include "storyboard/GroupObj.h"
 
+#include "storyboard/KeptElement.h"
 #include "xml/MemberTable.h"
 
 #include <utility>
@@ -19,6 +20,14 @@ constexpr MemberRow<CGroupObject> kGroup[] = {
     String<&CGroupObject::m_name>("name"),
     String<&CGroupObject::m_description>("description"),
 };
+
+/// What a save writes of a group that has nothing else.
+XmlNodePtr Written(const CGroupObject& group)
+{
+    XmlNodePtr element{ xmlNewNode(nullptr, XmlChars("group")) };
+    SaveRows({ element.get() }, kGroup, group);
+    return element;
+}
 
 } // namespace
 
@@ -47,15 +56,27 @@ Status CGroupObject::SetGroupInfo(long id, long start, long end, string name, st
     return status::kOk;
 }
 
+Status CGroupObject::SetContent(_xmlNode* element)
+{
+    if (element && !IsElement(element))
+        return status::kBadArgument;
+    m_content = KeepWhole(element);
+    return status::kOk;
+}
+
 Status CGroupObject::PersistXML(_xmlNode* node, bool save)
 {
     if (!node)
         return status::kBadArgument;
-    if (save) {
-        m_content.Save(node, [&] { SaveRows({ node }, kGroup, *this); });
-    } else {
+    if (!save) {
         LoadRows({ node }, kGroup, *this);
-        m_content.Load(node, { "key", "type" }, { "id", "start", "end", "name", "description" });
+        m_content = KeepForeign(node, Written(*this).get());
+    } else if (!m_content) {
+        SaveRows({ node }, kGroup, *this);
+    } else {
+        CGroupObject was;
+        LoadRows({ m_content.get() }, kGroup, was);
+        SaveOver(node, m_content.get(), Written(was).get(), Written(*this).get());
     }
     return status::kOk;
 }

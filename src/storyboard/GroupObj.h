@@ -1,12 +1,12 @@
 #pragma once
 
 #include "core/Export.h"
-#include "storyboard/KeptContent.h"
+#include "xml/KeptXmlPtr.h"
 #include "xml/PersistObject.h"
 
 #include <string>
 
-/// A group of panels. What a file holds beyond these five is kept for the next save.
+/// A group of panels, "group" in the file. What a file holds beyond these five is kept as it stands.
 class VANTREL_API CGroupObject : public CPersistObject
 {
 public:
@@ -18,6 +18,11 @@ public:
 
     vantrel::Status PersistXML(_xmlNode* node, bool save) override;
 
+    /// The element as it was read or set, without "key" and "type"; null when it has nothing else. As
+    /// that of a transition.
+    _xmlNode* GetContent() const { return m_content.get(); }
+    vantrel::Status SetContent(_xmlNode* element);
+
     long m_id = 0;
     long m_start = 0; ///< panel number
     long m_end = 0;   ///< panel number; the storyboard has at least so many panels
@@ -25,5 +30,5 @@ public:
     std::string m_description;
 
 private:
-    vantrel::KeptContent m_content;
+    vantrel::KeptXmlPtr m_content;
 };

@@ -200,14 +200,15 @@ Status CMarkerDataImpl::LoadMarkersXML(_xmlNode* node)
     if (!markers)
         return status::kOk;
     ClearAll();
+    std::vector<tagMarker> found;
     for (xmlNode* child : ChildElements(markers)) {
         if (!IsNamed(child, "marker"))
             continue;
-        tagMarker read;
-        LoadRows({ child }, kMarker, read);
-        MarkerAddToList(read.time, static_cast<eMarkerType>(read.type), read.id, read.state);
-        ms_lBaseID = std::max(ms_lBaseID, read.id);
+        LoadRows({ child }, kMarker, found.emplace_back());
+        ms_lBaseID = std::max(ms_lBaseID, found.back().id);
     }
+    for (const tagMarker& read : found) // no new id before all given ones are known
+        MarkerAddToList(read.time, static_cast<eMarkerType>(read.type), read.id, read.state);
     return status::kOk;
 }
 

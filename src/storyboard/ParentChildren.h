@@ -11,6 +11,10 @@
 /// How objects come to lie on a parent, from a file or from a program.
 namespace vantrel {
 
+/// The layers as a file has them: in their order, each once, without those that have no effects.
+std::vector<const std::pair<const long, CParentObjectImpl::Layer>*> LayersInOrder(
+    const CParentObjectImpl& parent);
+
 /// The id of the next object in a map of the parent: one that the map doesn't have.
 template <class Map>
 long NextChildID(CParentObjectImpl& parent, const Map& map)

@@ -3,6 +3,7 @@
 #include "storyboard/ParentChildren.h"
 
 #include <algorithm>
+#include <set>
 
 using namespace vantrel;
 
@@ -15,7 +16,10 @@ CParentObjectImpl::EffectMap& LayerFor(CParentObjectImpl& parent, long key, tagE
     CParentObjectImpl::Layer& layer = parent.m_layers[key];
     if (!layer.second) {
         layer = { type, std::make_unique<CParentObjectImpl::EffectMap>() };
-        parent.m_layerOrder.push_back(key);
+        std::vector<long>& order = parent.m_layerOrder;
+        // The layer may have been there before; a key above all that were can't.
+        if (key > parent.m_maxLayerKey || std::ranges::find(order, key) == order.end())
+            order.push_back(key);
         parent.m_maxLayerKey = std::max(parent.m_maxLayerKey, key);
     }
     return *layer.second;
@@ -32,6 +36,25 @@ Object* AddChild(CParentObjectImpl& parent, Map& map)
 }
 
 } // namespace
+
+std::vector<const std::pair<const long, CParentObjectImpl::Layer>*> vantrel::LayersInOrder(
+    const CParentObjectImpl& parent)
+{
+    const auto hasEffects = [](const CParentObjectImpl::Layer& layer) {
+        const auto isThere = [](const auto& entry) {
+            return entry.second && entry.second->m_whole;
+        };
+        return layer.second && std::ranges::any_of(*layer.second, isThere);
+    };
+    std::vector<const std::pair<const long, CParentObjectImpl::Layer>*> layers;
+    std::set<long> told;
+    for (const long key : parent.m_layerOrder) {
+        const auto layer = parent.m_layers.find(key);
+        if (layer != parent.m_layers.end() && hasEffects(layer->second) && told.insert(key).second)
+            layers.push_back(&*layer);
+    }
+    return layers;
+}
 
 CParentObjectImpl::CParentObjectImpl()
 {

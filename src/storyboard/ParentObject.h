@@ -2,6 +2,7 @@
 
 #include "core/Export.h"
 #include "storyboard/Whole.h"
+#include "xml/KeptXmlPtr.h"
 #include "xml/XMLWrapper.h"
 
 #include <cstdint>
@@ -56,6 +57,8 @@ public:
     /// Audio by id, each the part of a `CAudioObject`; null stands for a "smartsound".
     std::map<long, vantrel::WholePtr<CAudioInfoImpl>> m_audioList;
     long m_maxLayerKey = 0; ///< the highest layer key so far
+    /// The elements of "smartsounds" that a file brought, by the ids of their null audio.
+    std::map<long, vantrel::KeptXmlPtr> m_smartSounds;
 
 private:
     CQZBaseSBD* m_parentSBD = nullptr; ///< not owned

@@ -1,6 +1,7 @@
 #include "core/Number.h"
 #include "storyboard/ParentChildren.h"
 #include "storyboard/TimeAdjust.h"
+#include "xml/KeptXml.h"
 #include "xml/MemberTable.h"
 
 #include <algorithm>
@@ -67,7 +68,7 @@ public:
         const tagENM_LAYER_TYPE type =
             m_isOld ? OldLayerType(key)
                     : static_cast<tagENM_LAYER_TYPE>(NumberAttribute(element, "type"));
-        EffectMap& effects = StartLayer(key, type);
+        EffectMap& effects = LayerOf(key, type);
         for (xmlNode* child : ChildElements(element)) {
             if (IsNamed(child, kEffect))
                 ReadEffect(child, effects);
@@ -76,25 +77,33 @@ public:
 
     void ReadFlatEffect(xmlNode* element)
     {
-        ReadEffect(element, StartLayer(NumberAttribute(element, "key"), kFlatLayer));
+        ReadEffect(element, LayerOf(NumberAttribute(element, "key"), kFlatLayer));
     }
 
     void ReadAudio(xmlNode* element)
     {
         const long id = NextChildID(m_parent, m_parent.m_audioList);
+        string store;
+        if (AttributeText(element, "type", store) == kSmartSound) {
+            m_parent.m_smartSounds[id] = KeepXml(element); // another program's
+            m_parent.m_audioList.emplace(id, nullptr);
+            return;
+        }
         auto audio = MakeChild<CAudioObject>(m_parent, id);
         (void)audio->LoadXML(element); // it stays with what it read
         m_parent.m_audioList.emplace(id, audio.release());
     }
 
 private:
-    /// A layer of that key, in the place of one that is there.
-    EffectMap& StartLayer(long key, tagENM_LAYER_TYPE type)
+    /// The layer of that key; the first of it tells the type.
+    EffectMap& LayerOf(long key, tagENM_LAYER_TYPE type)
     {
         Layer& layer = m_parent.m_layers[key];
-        layer = { type, std::make_unique<EffectMap>() };
-        m_parent.m_layerOrder.push_back(key);
-        m_parent.m_maxLayerKey = std::max(m_parent.m_maxLayerKey, key);
+        if (!layer.second) {
+            layer = { type, std::make_unique<EffectMap>() };
+            m_parent.m_layerOrder.push_back(key);
+            m_parent.m_maxLayerKey = std::max(m_parent.m_maxLayerKey, key);
+        }
         return *layer.second;
     }
 
@@ -135,12 +144,10 @@ private:
 void SaveEffects(const MemberPlace& place, const char* name, const CParentObjectImpl& parent)
 {
     xmlNode* effects = AddMember(place, name);
-    for (const long key : parent.m_layerOrder) {
-        const auto entry = parent.m_layers.find(key);
-        if (entry == parent.m_layers.end() || !entry->second.second)
-            continue;
+    for (const auto* entry : LayersInOrder(parent)) {
         xmlNode* layer = AddElement(effects, "layer");
-        (void)AddAttribute(layer, "key", NumberText(key)); // fails for want of memory alone
+        (void)AddAttribute(layer, "key",
+                           NumberText(entry->first)); // fails for want of memory alone
         (void)AddAttribute(layer, "type", NumberText(long{ entry->second.first }));
         for (const auto& [id, effect] : *entry->second.second) {
             if (!effect || !effect->m_whole)
@@ -172,6 +179,11 @@ void SaveAudioList(const MemberPlace& place, const char* name, const CParentObje
 {
     xmlNode* list = AddMember(place, name);
     for (const auto& [id, audio] : parent.m_audioList) {
+        const auto kept = parent.m_smartSounds.find(id);
+        if (!audio && kept != parent.m_smartSounds.end()) {
+            (void)AppendKeptXml(list, kept->second); // fails for want of memory alone
+            continue;
+        }
         xmlNode* element = AddElement(list, "audio");
         (void)AddAttribute(element, "type", audio ? kAudioFile : kSmartSound);
         if (audio && audio->m_whole)
@@ -184,6 +196,7 @@ void LoadAudioList(xmlNode* element, CParentObjectImpl& parent)
     if (!element)
         return;
     parent.m_audioList.clear();
+    parent.m_smartSounds.clear();
     ParentReader reader(parent);
     for (xmlNode* child : ChildElements(element)) {
         if (IsNamed(child, "audio"))

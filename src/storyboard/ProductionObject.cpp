@@ -20,7 +20,7 @@ using Production = CProductionObject;
 
 constexpr const char* kWithWatermark = "{F66FD1A7-5276-4671-86E7-213D3C55BFD9}";
 constexpr const char* kWithoutWatermark = "{941D8B77-2EA3-4157-9F5D-49AB36D5B2F6}";
-constexpr std::int64_t kMostColors = 1'048'576;
+constexpr std::int64_t kMostColors = 65'536;
 
 std::int64_t GradientSize(const Production& production)
 {
@@ -77,11 +77,12 @@ constexpr MemberRow<GradientColor> kGradientColor[] = {
 void SaveGradient(const MemberPlace& place, const char* name, const Production& production)
 {
     xmlNode* gradient = AddElement(place.node, name);
-    const std::int64_t told = std::max<std::int64_t>(GradientSize(production), 0);
+    const std::int64_t told = GradientSize(production);
     const std::size_t count =
-        std::min(static_cast<std::size_t>(told), production.m_gradientColors.size());
+        told > 0 && told <= kMostColors ? static_cast<std::size_t>(told) : 0; // as a load has it
+    const std::vector<unsigned long>& colors = production.m_gradientColors;
     for (std::size_t i = 0; i < count; ++i) {
-        const GradientColor color{ i, production.m_gradientColors[i] };
+        const GradientColor color{ i, i < colors.size() ? colors[i] : 0 };
         SaveRows({ AddElement(gradient, "color") }, kGradientColor, color);
     }
 }

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <type_traits>
 #include <utility>
 
 using std::string;
@@ -22,6 +23,8 @@ constexpr long kHighest = std::numeric_limits<long>::max();
 template <class Panel>
 Panel* AddPanel(CQZBaseSBD& sbd, long key)
 {
+    if (IsClipKey(key) == std::is_same_v<Panel, CTransitionObject>)
+        return nullptr;
     auto panel = std::make_unique<Panel>();
     Panel* added = panel.get();
     added->SetSBD(&sbd);
@@ -32,6 +35,17 @@ Panel* AddPanel(CQZBaseSBD& sbd, long key)
 }
 
 } // namespace
+
+bool vantrel::FitsItsKey(long key, const CBaseObjectImpl* panel)
+{
+    if (!panel || !panel->m_whole)
+        return false;
+    if (dynamic_cast<const CTransitionObject*>(panel->m_whole))
+        return !IsClipKey(key);
+    const bool isClip = dynamic_cast<const CClipObject*>(panel->m_whole) ||
+                        dynamic_cast<const CColorObject*>(panel->m_whole);
+    return !isClip || IsClipKey(key); // an application's own panel is what its key says
+}
 
 CQZBaseSBD::CQZBaseSBD() : m_heldRecord(std::make_unique<HeldRecord>())
 {}
@@ -44,6 +58,8 @@ Status CQZBaseSBD::FinalRelease()
     m_panels.clear();
     m_groups.clear();
     m_sections.clear();
+    m_strayPanels.clear();
+    m_strayGroups.clear();
     return status::kOk;
 }
 
@@ -145,7 +161,7 @@ double CQZBaseSBD::ComputeDuration() const
     double sum = 0.0;
     for (const auto& [key, panel] : m_panels) {
         if (panel)
-            sum += key % 2 == 0 ? panel->m_duration : -panel->m_duration;
+            sum += IsClipKey(key) ? panel->m_duration : -panel->m_duration;
     }
     return sum > 0.0 ? sum : 0.0;
 }

@@ -5,6 +5,7 @@
 #include "storyboard/GroupObj.h"
 #include "storyboard/ProductionObject.h"
 #include "storyboard/Whole.h"
+#include "xml/KeptXmlPtr.h"
 #include "xml/PersistObject.h"
 
 #include <cstdint>
@@ -18,6 +19,19 @@ class CColorObject;
 class CTransitionObject;
 struct tagMarker;
 struct tagTLMarker;
+
+namespace vantrel {
+
+/// True for the key of a clip, false for that of a transition.
+constexpr bool IsClipKey(long key)
+{
+    return key % 2 == 0;
+}
+
+/// True for a panel that a save can write at its place: there is one, and its kind is that of its key.
+VANTREL_API bool FitsItsKey(long key, const CBaseObjectImpl* panel);
+
+} // namespace vantrel
 
 /// The time line behind one title or one menu.
 ///
@@ -70,6 +84,7 @@ public:
     /// The durations of the clips less those of the transitions, and never below 0.0.
     double ComputeDuration() const;
     /// Makes a panel with the next id, in the place of one that is there. It stays the storyboard's.
+    /// A key of the other kind gives null, and changes nothing.
     CColorObject* AddColorPanel(long key);
     CClipObject* AddClipPanel(long key);
     CTransitionObject* AddTransition(long key);
@@ -131,6 +146,10 @@ public:
     long m_nextID = 0; ///< the last id handed out
     std::int32_t m_heldState2 = 0;
     std::string m_heldText3;
+    /// Elements of panels and groups that a file had under no key of their kind: they go back as they
+    /// stood, behind the others.
+    std::vector<vantrel::KeptXmlPtr> m_strayPanels;
+    std::vector<vantrel::KeptXmlPtr> m_strayGroups;
 };
 
 /// How many storyboards the application made and released; the library leaves both alone.

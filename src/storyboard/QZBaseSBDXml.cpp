@@ -2,9 +2,14 @@
 #include "storyboard/AudioObject.h"
 #include "storyboard/ClipObject.h"
 #include "storyboard/ColorObject.h"
+#include "storyboard/KeptElement.h"
 #include "storyboard/QZBaseSBD.h"
+#include "storyboard/StoryboardIds.h"
 #include "storyboard/TransitionObject.h"
+#include "xml/KeptXml.h"
 #include "xml/MemberTable.h"
+
+#include <set>
 
 using std::string;
 using namespace vantrel;
@@ -70,9 +75,14 @@ void LoadProduction(xmlNode* element, Storyboard& sbd)
     LoadSections(element, sbd);
 }
 
+/// What the panel is counts, not what it says of itself: so its content is read as it was written.
 const char* TypeOfClip(const CBaseObjectImpl* panel)
 {
-    return panel && panel->GetClipType() == eClipSolidColor ? kSolidColor : kFileSource;
+    const CPersistObject* whole = panel ? panel->m_whole : nullptr;
+    if (dynamic_cast<const CColorObject*>(whole))
+        return kSolidColor;
+    const bool isColor = panel && panel->GetClipType() == eClipSolidColor;
+    return isColor && !dynamic_cast<const CClipObject*>(whole) ? kSolidColor : kFileSource;
 }
 
 /// Adds an element with a key. What follows a clip bears that clip's type too; null for none.
@@ -85,18 +95,34 @@ xmlNode* AddKeyed(xmlNode* parent, const char* name, long key, const char* type)
     return element;
 }
 
+void SaveStrays(xmlNode* parent, const std::vector<KeptXmlPtr>& strays)
+{
+    for (const KeptXmlPtr& stray : strays)
+        (void)AppendKeptXml(parent, stray); // fails for want of memory alone
+}
+
 void SavePanels(const MemberPlace& place, const char* name, const Storyboard& sbd)
 {
     xmlNode* panels = AddElement(place.node, name);
     const char* type = nullptr;
     for (const auto& [key, panel] : sbd.m_panels) {
-        const bool isClip = key % 2 == 0;
-        if (isClip)
+        if (!FitsItsKey(key, panel.get()))
+            continue;
+        if (IsClipKey(key))
             type = TypeOfClip(panel.get());
-        xmlNode* element = AddKeyed(panels, isClip ? kClip : kTransition, key, type);
-        if (panel && panel->m_whole)
-            (void)panel->m_whole->SaveXML(element); // can't fail on a node
+        xmlNode* element = AddKeyed(panels, IsClipKey(key) ? kClip : kTransition, key, type);
+        (void)panel->m_whole->SaveXML(element); // can't fail on a node
     }
+    for (const auto& [key, panel] : sbd.m_panels) { // the rest where a load finds the strays
+        if (!panel || !panel->m_whole || FitsItsKey(key, panel.get()))
+            continue;
+        const bool isTransition = IsClipKey(key);
+        xmlNode* element = AddKeyed(panels, isTransition ? kTransition : kClip, key,
+                                    isTransition ? nullptr : TypeOfClip(panel.get()));
+        (void)panel->m_whole->SaveXML(element); // can't fail on a node
+        DropEmptyTexts(element);
+    }
+    SaveStrays(panels, sbd.m_strayPanels);
 }
 
 template <class Panel>
@@ -132,11 +158,29 @@ long KeyOf(const xmlNode* element)
     return ParseLong(AttributeText(element, "key", store));
 }
 
+bool HasKey(const xmlNode* element)
+{
+    string store;
+    return !AttributeText(element, "key", store).empty();
+}
+
 void LoadPanels(xmlNode* element, Storyboard& sbd)
 {
+    if (!element)
+        return;
+    const auto isStray = [](const xmlNode* child) {
+        const bool isClip = IsNamed(child, kClip);
+        return (isClip || IsNamed(child, kTransition)) &&
+               (!HasKey(child) || IsClipKey(KeyOf(child)) != isClip);
+    };
+    sbd.m_strayPanels.clear();
+    for (xmlNode* child : ChildElements(element)) {
+        if (isStray(child))
+            sbd.m_strayPanels.emplace_back(CopyXml(child).release());
+    }
     const auto load = [&](const char* name, auto read) {
         for (xmlNode* child : ChildElements(element)) {
-            if (!IsNamed(child, name))
+            if (!IsNamed(child, name) || isStray(child))
                 continue;
             WholePtr<CBaseObjectImpl> panel = read(child, sbd);
             (void)panel->put_ID(sbd.NextID()); // behind those of what lies on it
@@ -152,19 +196,29 @@ void SaveGroups(const MemberPlace& place, const char* name, const Storyboard& sb
     xmlNode* groups = AddElement(place.node, name);
     const char* type = nullptr;
     for (auto last = sbd.m_panels.rbegin(); last != sbd.m_panels.rend() && !type; ++last)
-        type = last->first % 2 == 0 ? TypeOfClip(last->second.get()) : nullptr;
+        type = IsClipKey(last->first) && FitsItsKey(last->first, last->second.get())
+                   ? TypeOfClip(last->second.get())
+                   : nullptr;
     for (const auto& [key, group] : sbd.m_groups) {
-        xmlNode* element = AddKeyed(groups, kGroup, key, type);
         if (group)
-            (void)group->SaveXML(element); // can't fail on a node
+            (void)group->SaveXML(AddKeyed(groups, kGroup, key, type)); // can't fail on a node
     }
+    SaveStrays(groups, sbd.m_strayGroups);
 }
 
 void LoadGroups(xmlNode* element, Storyboard& sbd)
 {
+    if (!element)
+        return;
+    sbd.m_strayGroups.clear();
+    std::set<long> taken;
     for (xmlNode* child : ChildElements(element)) {
-        if (IsNamed(child, kGroup))
+        if (!IsNamed(child, kGroup))
+            continue;
+        if (HasKey(child) && taken.insert(KeyOf(child)).second)
             (void)sbd.AddGroup(KeyOf(child))->LoadXML(child); // it stays with what it read
+        else
+            sbd.m_strayGroups.emplace_back(CopyXml(child).release());
     }
 }
 
@@ -183,10 +237,12 @@ Status CQZBaseSBD::PersistXML(_xmlNode* node, bool save)
 {
     if (!node)
         return status::kBadArgument;
-    if (save)
-        SaveRows({ node }, kStoryboard, *this);
-    else
+    if (!save) {
         LoadRows({ node }, kStoryboard, *this);
+        return status::kOk;
+    }
+    const StoryboardIds ids(*this);
+    SaveRows({ node }, kStoryboard, *this);
     return status::kOk;
 }
 

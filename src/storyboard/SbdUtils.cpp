@@ -2,6 +2,8 @@
 
 #include "storyboard/AudioObject.h"
 #include "storyboard/ClipObject.h"
+#include "storyboard/ColorObject.h"
+#include "storyboard/EffectObject.h"
 #include "storyboard/QZBaseSBD.h"
 
 #include <cmath>
@@ -11,11 +13,6 @@ using std::string;
 using namespace vantrel;
 
 namespace {
-
-bool IsClipKey(long key)
-{
-    return key % 2 == 0;
-}
 
 CClipObject* AsClip(CBaseObjectImpl* panel)
 {
@@ -59,6 +56,73 @@ CAudioObject* BackgroundAudio(CQZBaseSBD* sbd)
     return nullptr;
 }
 
+/// Resets what was known of a file that gives way to another. How the file is used stays.
+void ForgetFile(CSourceFileImpl& file)
+{
+    const CSourceFileImpl blank;
+    file.m_fileDuration = blank.m_fileDuration;
+    file.m_fileSize = blank.m_fileSize;
+    file.m_dataRate = blank.m_dataRate;
+    file.m_volLabel.clear();
+    file.m_cdDrive.clear();
+    file.m_scene = blank.m_scene;
+    file.m_sceneStart = blank.m_sceneStart;
+    file.m_sceneEnd = blank.m_sceneEnd;
+    file.m_albumID = blank.m_albumID;
+    file.m_aspectRatio = blank.m_aspectRatio;
+    file.m_isTivo = blank.m_isTivo;
+    file.m_interlacedType = blank.m_interlacedType;
+    file.m_interlacedInfo = blank.m_interlacedInfo;
+    file.m_sourceType3D = blank.m_sourceType3D;
+    file.m_isLeftEyePrecedence = blank.m_isLeftEyePrecedence;
+}
+
+/// Gives all that lies on one parent to another.
+void MoveChildren(CParentObjectImpl& from, CParentObjectImpl& to)
+{
+    to.m_layers = std::exchange(from.m_layers, {});
+    to.m_layerOrder = std::exchange(from.m_layerOrder, {});
+    to.m_audioList = std::exchange(from.m_audioList, {});
+    to.m_smartSounds = std::exchange(from.m_smartSounds, {});
+    to.m_maxLayerKey = from.m_maxLayerKey;
+    const auto adopt = [&to](const auto& part) {
+        if (auto* child = part ? dynamic_cast<CSubObjectImpl*>(part->m_whole) : nullptr)
+            (void)child->put_Parent(&to); // can't fail
+    };
+    for (const auto& [key, layer] : to.m_layers) {
+        if (!layer.second)
+            continue;
+        for (const auto& [id, effect] : *layer.second)
+            adopt(effect);
+    }
+    for (const auto& [id, audio] : to.m_audioList)
+        adopt(audio);
+}
+
+/// A clip at the place of the background. Of a panel that stands there the clip takes over what it
+/// is and what lies on it.
+CClipObject* MakeBackgroundClip(CQZBaseSBD& sbd)
+{
+    const auto former = std::exchange(sbd.m_panels[0], nullptr);
+    CClipObject* clip = sbd.AddClipPanel(0);
+    if (!former)
+        return clip;
+    CBaseObjectImpl& base = *clip;
+    base.m_id = former->m_id;
+    base.m_panelId = former->m_panelId;
+    base.m_loadedDuration = former->m_loadedDuration;
+    base.m_duration = former->m_duration;
+    base.m_groupId = former->m_groupId;
+    base.m_flags = former->m_flags;
+    base.m_speed = former->m_speed;
+    base.m_metaData = std::move(former->m_metaData);
+    if (auto* colour = dynamic_cast<CColorObject*>(former->m_whole)) {
+        MoveChildren(*colour, *clip);
+        clip->m_markers = std::move(colour->m_markers);
+    }
+    return clip;
+}
+
 } // namespace
 
 double getSbdDuration(CQZBaseSBD* sbd)
@@ -83,23 +147,23 @@ double getMaxSbdDuration(CQZBaseSBD* sbd)
 
 Status setSbdDuration(CQZBaseSBD* sbd, double duration)
 {
-    if (!(duration >= 0.0))
+    if (!(duration >= 0.0) || !std::isfinite(duration))
         return status::kBadArgument;
     if (!sbd)
         return status::kNullPointer;
 
     CBaseObjectImpl* last = nullptr;
-    double sum = 0.0;
     for (const auto& [key, panel] : sbd->m_panels) {
-        if (!panel)
-            continue;
-        sum += IsClipKey(key) ? panel->m_duration : -panel->m_duration;
-        if (IsClipKey(key))
+        if (panel && IsClipKey(key))
             last = panel.get();
     }
     if (!last)
         return status::kNullPointer;
-    const double others = sum - last->m_duration;
+    double others = 0.0; // without the last clip, whose own duration may be no number
+    for (const auto& [key, panel] : sbd->m_panels) {
+        if (panel && panel.get() != last)
+            others += IsClipKey(key) ? panel->m_duration : -panel->m_duration;
+    }
     if (!(others <= duration))
         return status::kBadArgument;
     last->m_duration = duration - others;
@@ -123,21 +187,18 @@ Status setSbdBkgndVideo(CQZBaseSBD* sbd, string path, bool fitToVideo)
     if (path.empty())
         return status::kBadArgument;
 
-    CBaseObjectImpl* former = Background(sbd);
-    CClipObject* clip = AsClip(former);
-    if (!clip) {
-        const double duration = former ? former->m_duration : 0.0;
-        clip = sbd->AddClipPanel(0);
-        clip->m_duration = duration;
-    }
+    CClipObject* clip = AsClip(Background(sbd));
+    if (!clip)
+        clip = MakeBackgroundClip(*sbd);
     clip->SetClipType(eClipFileSource);
 
     const string name = CSourceFileImpl::CleanFileName(std::move(path));
     if (clip->m_fileName != name) {
+        ForgetFile(*clip);
         clip->m_fileName = name;
-        clip->m_fileDuration = 0.0; // these were the former file's
-        clip->m_fileSize = 0.0;
-        clip->m_dataRate = 0.0;
+        clip->m_type = CSourceFileImpl().m_type;
+        clip->m_nativeAudio.reset();
+        clip->m_canUseNativeAudio = true; // as far as anybody knows
     }
     clip->m_inPoint = 0.0;
     clip->m_outPoint = 0.0;
@@ -170,7 +231,13 @@ Status setSbdBkgndAudio(CQZBaseSBD* sbd, string path)
         audio = production->AddAudio();
         audio->m_endOffset = getSbdDuration(sbd);
     }
-    audio->m_fileName = CSourceFileImpl::CleanFileName(std::move(path));
+    const string name = CSourceFileImpl::CleanFileName(std::move(path));
+    if (audio->m_fileName != name) {
+        ForgetFile(*audio);
+        audio->m_fileName = name;
+    }
+    audio->m_inPoint = 0.0;
+    audio->m_outPoint = 0.0;
     return status::kOk;
 }
 

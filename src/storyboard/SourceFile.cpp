@@ -13,6 +13,12 @@ using namespace vantrel;
 
 namespace {
 
+/// The name as a load has it, so that it stays what it is from the first save on.
+void SaveFileName(const MemberPlace& place, const char* name, const CSourceFileImpl& file)
+{
+    AddMember(place, name, typed::String::kType, CSourceFileImpl::CleanFileName(file.m_fileName));
+}
+
 void LoadFileName(xmlNode* element, CSourceFileImpl& file)
 {
     file.m_fileName = CSourceFileImpl::CleanFileName(string(ElementText(element)));
@@ -51,7 +57,7 @@ using File = CSourceFileImpl;
 
 // The elements of "sourceFile".
 constexpr MemberRow<File> kSourceFile[] = {
-    { "fileName", SaveField<typed::String, &File::m_fileName>, LoadFileName },
+    { "fileName", SaveFileName, LoadFileName },
     Double<&File::m_inPoint>("inPoint"),
     Double<&File::m_outPoint>("outPoint"),
     Double<&File::m_fileDuration>("fileDuration"),

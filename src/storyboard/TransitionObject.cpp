@@ -1,10 +1,23 @@
 #include "storyboard/TransitionObject.h"
 
+#include "storyboard/KeptElement.h"
 #include "storyboard/PersistParts.h"
 #include "xml/XmlValue.h"
 
-using vantrel::PersistPart;
 using namespace vantrel;
+
+namespace {
+
+/// What a save writes of a panel that has nothing else.
+XmlNodePtr Written(CTransitionObject& transition)
+{
+    XmlNodePtr element{ xmlNewNode(nullptr, XmlChars("transition")) };
+    if (element)
+        PersistPart<CXMLBaseObjectImpl>(transition, element.get(), true);
+    return element;
+}
+
+} // namespace
 
 Status CTransitionObject::PersistXML(_xmlNode* node, bool save)
 {
@@ -17,17 +30,27 @@ Status CTransitionObject::PersistXML(_xmlNode* node, bool save)
     return status::kOk;
 }
 
+Status CTransitionObject::SetContent(_xmlNode* element)
+{
+    if (element && !IsElement(element))
+        return status::kBadArgument;
+    m_content = KeepWhole(element);
+    return status::kOk;
+}
+
 void CTransitionObject::Save(_xmlNode* node)
 {
-    m_content.Save(node, [&] {
-        if (m_hasBase || m_duration != m_loadedDuration)
-            PersistPart<CXMLBaseObjectImpl>(*this, node, true);
-    });
+    if (!m_content) {
+        PersistPart<CXMLBaseObjectImpl>(*this, node, true);
+        return;
+    }
+    CTransitionObject was{ ForReading() };
+    PersistPart<CXMLBaseObjectImpl>(was, m_content.get(), false);
+    SaveOver(node, m_content.get(), Written(was).get(), Written(*this).get());
 }
 
 void CTransitionObject::Load(_xmlNode* node)
 {
     PersistPart<CXMLBaseObjectImpl>(*this, node, false);
-    m_hasBase = vantrel::FindChildElement(node, "baseObject") != nullptr;
-    m_content.Load(node, { "key", "type" }, { "baseObject" });
+    m_content = KeepForeign(node, Written(*this).get());
 }

@@ -73,26 +73,29 @@ TEST(ProductionObject, GradientIsPlacedByIndexAndBounded)
                              "<color><RGB>#ff</RGB></color><color><index>1</index></color>"));
     EXPECT_EQ(production.m_gradientColors, (std::vector<unsigned long>{ 0, 0, 0, 3 }));
 
-    for (const char* columns : { "524289", "2147483647", "4294967295", "-3" }) {
+    for (const char* columns : { "32769", "2147483647", "4294967295", "-3" }) {
         CProductionObject other;
         ReadObject(other, Gradient(columns, "<color><index>0</index><RGB>#1</RGB></color>"));
         EXPECT_TRUE(other.m_gradientColors.empty()) << columns;
         WrittenObject(other);
     }
     CProductionObject largest;
-    ReadObject(largest, Gradient("524288", ""));
-    EXPECT_EQ(largest.m_gradientColors.size(), 1048576U);
+    ReadObject(largest, Gradient("32768", ""));
+    EXPECT_EQ(largest.m_gradientColors.size(), 65536U);
 }
 
-TEST(ProductionObject, SavesNoMoreColoursThanThereAre)
+TEST(ProductionObject, SavesTheColoursThatALoadWillHave)
 {
     CProductionObject production;
     production.m_gradientRows = 70000;
     production.m_gradientCols = 70000;
     production.m_gradientColors = { 1 };
+    EXPECT_EQ(WrittenObject(production).find("<color>"), std::string::npos);
+    production.m_gradientRows = 1;
+    production.m_gradientCols = 2;
     const std::string text = WrittenObject(production);
-    EXPECT_EQ(text.find("<color>"), text.rfind("<color>"));
     EXPECT_NE(text.find("#000001"), std::string::npos);
+    EXPECT_NE(text.find("#000000", text.find("#000001")), std::string::npos); // not given: black
 }
 
 TEST(ProductionObject, MetaDataIsFoundAsGivenThenFolded)

@@ -88,8 +88,8 @@ TEST(QZBaseSBD, UnknownOrMissingTypeIsAFile)
     CQZBaseSBD sbd;
     ReadObject(sbd, "<O><panels><clip key='0' type='file source'/><clip key='2' type='?'/>"
                     "<clip key='4'/><clip type='solid color'/></panels></O>");
-    EXPECT_EQ(sbd.m_panels.size(), 3U); // the last has no key, which is key 0
-    EXPECT_EQ(sbd.m_panels[0]->GetClipType(), eClipSolidColor);
+    EXPECT_EQ(sbd.m_panels.size(), 3U); // the last has no key, and takes none
+    EXPECT_EQ(sbd.m_panels[0]->GetClipType(), eClipFileSource);
     EXPECT_EQ(sbd.m_panels[2]->GetClipType(), eClipFileSource);
     EXPECT_EQ(sbd.m_panels[4]->GetClipType(), eClipFileSource);
 }

@@ -3,6 +3,7 @@
 #include "storyboard/AudioObject.h"
 #include "storyboard/ClipObject.h"
 #include "storyboard/ColorObject.h"
+#include "storyboard/EffectObject.h"
 #include "storyboard/QZBaseSBD.h"
 #include "storyboard/TransitionObject.h"
 #include "support/StoryboardFixture.h"
@@ -67,7 +68,13 @@ TEST_F(TimeLine, NewDurationIsTakenByTheLastClip)
     EXPECT_EQ(setSbdDuration(&m_sbd, 7.0), status::kBadArgument); // the others take 8 alone
     EXPECT_EQ(setSbdDuration(&m_sbd, -1.0), status::kBadArgument);
     EXPECT_EQ(setSbdDuration(&m_sbd, std::nan("")), status::kBadArgument);
+    EXPECT_EQ(setSbdDuration(&m_sbd, INFINITY), status::kBadArgument);
     EXPECT_EQ(m_last->m_duration, 12.0);
+    for (const double former : { 1e20, double(INFINITY), std::nan("") }) { // as a file may have it
+        m_last->m_duration = former;
+        EXPECT_EQ(setSbdDuration(&m_sbd, 10.0), status::kOk);
+        EXPECT_EQ(m_last->m_duration, 2.0);
+    }
     EXPECT_EQ(setSbdDuration(nullptr, 1.0), status::kNullPointer);
     CQZBaseSBD empty;
     EXPECT_EQ(setSbdDuration(&empty, 1.0), status::kNullPointer);
@@ -95,7 +102,13 @@ TEST(BackgroundVideo, ColourAtPanelZeroGivesWayAndHasNoName)
 {
     CQZBaseSBD sbd;
     std::string name = "former";
-    sbd.AddColorPanel(0)->m_duration = 5.0;
+    CColorObject* colour = sbd.AddColorPanel(0);
+    colour->m_duration = 5.0;
+    colour->m_groupId = 4;
+    colour->m_panelId = 6;
+    const CEffectObject* effect = colour->AddEffect(3, tagENM_LAYER_TYPE{ 1 });
+    colour->AddAudio();
+    colour->MarkerAddToList(2.5, eMarkerType{}, 9, tagENM_MARKER_STATE{});
     EXPECT_EQ(getSbdBkgndVideo(&sbd, &name), status::kOk);
     EXPECT_EQ(getSbdBkgndVideo(nullptr, &name), status::kOk);
     EXPECT_EQ(getSbdBkgndVideo(&sbd, nullptr), status::kNullPointer);
@@ -103,7 +116,27 @@ TEST(BackgroundVideo, ColourAtPanelZeroGivesWayAndHasNoName)
     EXPECT_EQ(setSbdBkgndVideo(&sbd, "/a.mpg", false), status::kOk);
     EXPECT_EQ(getSbdBkgndVideo(&sbd, &name), status::kOk);
     EXPECT_EQ(name, "/a.mpg");
-    EXPECT_EQ(sbd.m_panels[0]->m_duration, 5.0);
+    auto* clip = dynamic_cast<CClipObject*>(sbd.m_panels[0]->m_whole);
+    ASSERT_NE(clip, nullptr);
+    EXPECT_EQ(clip->m_duration, 5.0);
+    EXPECT_EQ(clip->m_groupId, 4); // what lay on the colour lies on the clip
+    EXPECT_EQ(clip->m_panelId, 6);
+    EXPECT_EQ(clip->m_audioList.size(), 1U);
+    EXPECT_EQ(clip->LookupIndex(9), 0);
+    ASSERT_EQ(clip->m_layerOrder, std::vector<long>{ 3 });
+    EXPECT_EQ(effect->m_parent, static_cast<CParentObjectImpl*>(clip));
+
+    clip->m_volLabel = "DISC_4"; // known of this file, and not of the next
+    clip->m_isTivo = true;
+    clip->m_nativeAudio = std::make_unique<CAudioObject>();
+    clip->m_canUseNativeAudio = false;
+    clip->m_repeat = true;
+    EXPECT_EQ(setSbdBkgndVideo(&sbd, "/b.mpg", false), status::kOk);
+    EXPECT_EQ(clip->m_volLabel, "");
+    EXPECT_FALSE(clip->m_isTivo);
+    EXPECT_EQ(clip->m_nativeAudio, nullptr);
+    EXPECT_TRUE(clip->m_canUseNativeAudio);
+    EXPECT_TRUE(clip->m_repeat);
 }
 
 TEST_F(TimeLine, BackgroundAudioIsTheFirstOfTheProduction)
@@ -115,12 +148,17 @@ TEST_F(TimeLine, BackgroundAudioIsTheFirstOfTheProduction)
     EXPECT_EQ(_matchBkgndAudioDuration(&m_sbd), status::kOk);
     EXPECT_EQ(name, "former");
     EXPECT_EQ(setSbdBkgndAudio(&m_sbd, R"(\music\a.mp3)"), status::kOk);
+    auto* former = dynamic_cast<CAudioObject*>(list.rbegin()->second->m_whole);
+    former->m_inPoint = former->m_outPoint = former->m_fileDuration = 7.0;
     EXPECT_EQ(setSbdBkgndAudio(&m_sbd, "/music/b.mp3"), status::kOk);
     EXPECT_EQ(getSbdBkgndAudio(&m_sbd, &name), status::kOk);
     EXPECT_EQ(name, "/music/b.mp3");
     ASSERT_EQ(list.size(), 2U);
     auto* audio = dynamic_cast<CAudioObject*>(list.rbegin()->second->m_whole);
     EXPECT_EQ(audio->m_endOffset, 14.0);
+    EXPECT_EQ(audio->m_inPoint, 0.0);
+    EXPECT_EQ(audio->m_outPoint, 0.0);
+    EXPECT_EQ(audio->m_fileDuration, 0.0);
     m_last->m_duration = 7.0;
     EXPECT_EQ(_matchBkgndAudioDuration(&m_sbd), status::kOk);
     EXPECT_EQ(audio->m_endOffset, 15.0);

@@ -155,18 +155,116 @@ TEST(StoryboardFile, TransitionTakesItsDurationFromTheFile)
     EXPECT_EQ(again.m_panels[3]->m_duration, 2.0);
 }
 
-TEST(StoryboardFile, WhatDoesNotFitItsKeyIsSavedWithoutHarm)
+TEST(StoryboardFile, WhatDoesNotFitItsKeyDestroysNothing)
 {
     CQZBaseSBD sbd;
     sbd.NewProduction();
-    sbd.AddClipPanel(1)->m_fileName = "/a.mpg";
-    sbd.AddTransition(2);
+    EXPECT_EQ(sbd.AddClipPanel(1), nullptr);
+    EXPECT_EQ(sbd.AddTransition(2), nullptr);
+    auto clip = std::make_unique<CClipObject>();
+    clip->m_fileName = "/a.mpg";
+    sbd.m_panels[1].reset(clip.release());              // an application may do so all the same
     sbd.AddColorPanel(4)->SetClipType(eClipFileSource); // says it is something else
     sbd.m_panels[6];                                    // nothing at all
+    const string saved = StableFile(SavedFile(sbd));
+    EXPECT_NE(saved.find("/a.mpg"), string::npos);
+    EXPECT_EQ(saved, SavedFile(sbd));
+
+    const string panels = R"(<clip key="0" type="solid color"/><transition key="1"/>)";
+    for (const string stray :
+         { R"(<clip key="1"><x/></clip>)", R"(<transition key="0" a="1">t<x/></transition>)",
+           R"(<clip type="solid color"><x p="1"/></clip>)", "<transition/>" }) {
+        CQZBaseSBD loaded;
+        LoadFile(loaded, FileOf("<panels>" + stray + panels + "</panels>"));
+        EXPECT_EQ(loaded.m_panels.size(), 2U);
+        EXPECT_NE(loaded.m_panels[0]->m_whole, nullptr);
+        string file = StableFile(SavedFile(loaded));
+        for (std::size_t blank; (blank = file.find(">\n")) != string::npos;)
+            file.erase(blank + 1, file.find_first_not_of(" \n", blank + 1) - blank - 1);
+        EXPECT_NE(file.find(stray), string::npos) << stray;
+    }
+    CQZBaseSBD groups;
+    LoadFile(groups, FileOf(R"(<groups><group/><group key="4"><name>a</name></group>)"
+                            R"(<group key="4"><name>b</name></group></groups>)"));
+    EXPECT_EQ(groups.m_groups[4]->m_name, "a");
+    EXPECT_NE(StableFile(SavedFile(groups)).find("<name>b</name>"), string::npos);
+}
+
+TEST(StoryboardFile, WhatLiesUnderOneKeyLiesTogether)
+{
+    const string layered = R"(<layer key="3" type="2"><effect/></layer><layer key="1"><effect/>)"
+                           R"(</layer><layer key="3" type="5"><effect/><effect/></layer>)";
+    const string flat = R"(<effect key="3"/><effect key="1"/><effect key="3"/><effect key="3"/>)";
+    for (const string& effects : { layered, flat }) {
+        CQZBaseSBD sbd;
+        LoadFile(sbd, FileOf("<panels><clip key='0'><parentObject><effects>" + effects +
+                             "</effects></parentObject></clip></panels>"));
+        CClipObject& clip = *ClipAt(sbd, 0);
+        EXPECT_EQ(clip.m_layerOrder, (std::vector<long>{ 3, 1 }));
+        EXPECT_EQ(clip.m_layers.at(3).second->size(), 3U);
+        EXPECT_EQ(clip.m_layers.at(3).first, effects == flat ? 1 : 2);
+        clip.m_layers.erase(3);
+        clip.AddEffect(3, tagENM_LAYER_TYPE{ 1 }); // made again
+        EXPECT_EQ(clip.m_layerOrder, (std::vector<long>{ 3, 1 }));
+        (void)StableFile(SavedFile(sbd));
+    }
+}
+
+TEST(StoryboardFile, SoundsAndModelsOfOthersGoBackAsTheyStood)
+{
+    const string sound = R"(<audio type="smartsound" mood="calm"><x/>text</audio>)";
+    const string model = R"(<EqualizerModel own="1"><Bands>0</Bands></EqualizerModel>)";
+    CQZBaseSBD sbd;
+    LoadFile(sbd,
+             FileOf("<production><parentObject><audioList>" + sound +
+                    "<audio><audioInfo><Equalizer><EqualizerModel><Bands>0</Bands>"
+                    "</EqualizerModel>" +
+                    model +
+                    "</Equalizer></audioInfo></audio></audioList></parentObject></production>"));
+    EXPECT_EQ(sbd.m_productionObject->m_audioList.begin()->second, nullptr);
+    string file = StableFile(SavedFile(sbd));
+    std::erase_if(file, [](char c) { return c == '\n' || c == ' '; });
+    string expected = sound + model;
+    std::erase(expected, ' ');
+    EXPECT_NE(file.find(expected.substr(0, sound.size() - 2)), string::npos) << file;
+    EXPECT_NE(file.find(expected.substr(sound.size() - 2)), string::npos) << file;
+}
+
+TEST(StoryboardFile, TransitionsAndGroupsAreKeptWhole)
+{
+    const string base = R"(<baseObject x:a="1" b="2"><!--c--><Id dt:dt="i4">9</Id> <duration )"
+                        R"(dt:dt="r8">1.50</duration><more/><flags dt:dt="ui4">7</flags><flags/>)"
+                        R"(</baseObject>)";
+    const string element = R"(<transition key="1" x:kind="wipe">t)" + base +
+                           R"(<x:y/><effect/><baseObject q="1"/></transition>)";
+    CQZBaseSBD sbd;
+    LoadFile(sbd, R"(<Root xmlns:dt="urn:schemas-microsoft-com:datatypes" xmlns:x="urn:x">)"
+                  R"(<Productions><Title0001><production/><panels>)" +
+                      element + "</panels></Title0001></Productions></Root>");
+    const string kept = StableFile(SavedFile(sbd));
+    for (const char* part :
+         { R"(x:kind="wipe")", R"(<!--c-->)", R"(<baseObject x:a="1" b="2">)", ">1.50</duration>",
+           "<more/>", "<flags/>", "<x:y/>", R"(<baseObject q="1"/>)", R"(<Id dt:dt="i4">3</Id>)" })
+        EXPECT_NE(kept.find(part), string::npos) << part << kept;
+
+    auto* transition = dynamic_cast<CTransitionObject*>(sbd.m_panels[1]->m_whole);
+    ASSERT_NE(transition, nullptr);
+    EXPECT_NE(TextOf(transition->GetContent()).find("wipe"), string::npos);
+    transition->m_flags = 8;
+    transition->m_speed = 2.5;
+    const XmlText note{ "<note/>" };
+    EXPECT_EQ(transition->SetMetaData("mine", note.root()), status::kOk);
+    const string changed = StableFile(SavedFile(sbd));
+    for (const char* part :
+         { ">8</flags>", "<flags/>", ">2.5</speed>", "<mine>", ">1.50</duration>", "<!--c-->" })
+        EXPECT_NE(changed.find(part), string::npos) << part;
+
+    const XmlText dissolve{ R"(<transition key="5" kind="dissolve"/>)" };
+    EXPECT_EQ(transition->SetContent(dissolve.root()), status::kOk);
     CQZBaseSBD again;
     LoadFile(again, SavedFile(sbd));
-    EXPECT_EQ(again.m_panels.size(), 4U);
-    EXPECT_NE(SavedFile(again).find("/a.mpg"), string::npos);
+    EXPECT_EQ(again.m_panels[1]->m_speed, 2.5); // what the program gave, with the new content
+    EXPECT_NE(SavedFile(again).find(R"(key="1" kind="dissolve")"), string::npos);
 }
 
 TEST(StoryboardFile, EffectDataLeavesTheDocumentThatIsRead)
