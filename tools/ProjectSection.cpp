@@ -7,16 +7,6 @@ namespace tool {
 
 namespace {
 
-/// The fixed children of a project, by position.
-enum Position
-{
-    kTitles,
-    kMenus,
-    kDataFiles,
-    kCommands,
-    kEncoding
-};
-
 Json CompressionFact(const CDSProjectData& project)
 {
     bool value = false;
@@ -54,11 +44,11 @@ Json ProjectFacts(CDSProjectData& project, const string& path, unsigned long ver
     Json facts = { { "file", path }, { "version", version } };
     AddSettings(facts, project);
     facts["counts"] = Json::object();
-    facts["encoding"] = EncodingFacts(project.GetChild(kEncoding));
-    facts["commands"] = CommandFacts(project.GetChild(kCommands));
-    facts["titles"] = TitleFacts(project.GetChild(kTitles));
-    facts["menus"] = MenuFacts(project.GetChild(kMenus));
-    facts["dataFiles"] = DataFileFacts(project.GetChild(kDataFiles));
+    facts["encoding"] = EncodingFacts(project.GetChild(ProjectChild::Encoding));
+    facts["commands"] = CommandFacts(project.GetChild(ProjectChild::Commands));
+    facts["titles"] = TitleFacts(project.GetChild(ProjectChild::Titles));
+    facts["menus"] = MenuFacts(project.GetChild(ProjectChild::Menus));
+    facts["dataFiles"] = DataFileFacts(project.GetChild(ProjectChild::DataFiles));
     for (const char* list : { "titles", "menus", "dataFiles", "commands" })
         facts["counts"][list] = facts[list].size();
     return facts;

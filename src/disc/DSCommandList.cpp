@@ -1,30 +1,36 @@
 #include "disc/DSCommandList.h"
 
+#include "core/Property.h"
 #include "project/NodeForm.h"
 #include "xml/KeptXml.h"
 #include "xml/XmlValue.h"
 
 #include <iterator>
 
-using std::map;
 using std::string;
 using namespace vantrel;
+using namespace vantrel::attribute;
 
 // The attributes of a command element.
-AttributeTable<CDiscCommandNode> CDiscCommandNode::Attributes()
+struct VANTREL_INTERNAL CDiscCommandNode::Form
 {
-    using namespace vantrel::attribute;
     using Command = CDiscCommandNode;
     using Params = DiscCommandParams;
+
     static constexpr auto rows =
         Rows<Command>(DecimalIn<&Command::m_params, &Params::code>("code"), // cut to 32 bits
                       DecimalIn<&Command::m_params, &Params::param1>("param1"),
                       DecimalIn<&Command::m_params, &Params::param2>("param2"));
-    return rows;
-}
+    static constexpr bool addsToMap = true;
+};
 
-CDiscCommandNode::CDiscCommandNode()
-    : CProjectNode(eNodeCommand, kFormOf<CDiscCommandNode, &CDiscCommandNode::Attributes>)
+/// Sub-elements "file" and "effect", in the file's order.
+struct VANTREL_INTERNAL CDiscCommandNode::Kept
+{
+    std::vector<XmlNodePtr> elements;
+};
+
+CDiscCommandNode::CDiscCommandNode() : FormedNode(eNodeCommand, kFormOf<CDiscCommandNode, Form>)
 {}
 
 CDiscCommandNode::~CDiscCommandNode() = default;
@@ -49,48 +55,41 @@ string CDiscCommandNode::GetObjectTagName()
 
 Status CDiscCommandNode::ReadXML(IXMLDOMNode* node)
 {
-    const Status read = CProjectNode::ReadXML(node);
+    const Status read = FormedNode::ReadXML(node);
     if (Failed(read))
         return read;
-    m_kept.clear();
-    for (const xmlNode* child : ChildElements(node)) {
-        if (IsNamed(child, "file") || IsNamed(child, "effect"))
-            m_kept.push_back(CopyXml(child));
-    }
-    return status::kOk;
+    return Guarded([&] {
+        m_kept.reset();
+        for (const xmlNode* child : ChildElements(node)) {
+            if (!IsNamed(child, "file") && !IsNamed(child, "effect"))
+                continue;
+            if (!m_kept)
+                m_kept = std::make_unique<Kept>();
+            m_kept->elements.push_back(CopyXml(child));
+        }
+        return status::kOk;
+    });
 }
 
 Status CDiscCommandNode::WriteXML(IXMLDOMNode* node, long native)
 {
-    Status written = CProjectNode::WriteXML(node, native);
-    for (auto kept = m_kept.begin(); kept != m_kept.end() && !Failed(written); ++kept)
-        written = AppendXmlCopy(node, kept->get());
+    Status written = FormedNode::WriteXML(node, native);
+    if (!m_kept)
+        return written;
+    for (const XmlNodePtr& element : m_kept->elements) {
+        if (!Failed(written))
+            written = AppendXmlCopy(node, element.get());
+    }
     return written;
 }
 
-Status CDiscCommandNode::FillAttributeMap(map<string, string>& attributes, bool native)
+struct VANTREL_INTERNAL CDSCommandList::Form
 {
-    Attributes().Write(*this, native, attributes);
-    return status::kOk;
-}
+    static constexpr auto rows = Rows<CDSCommandList>();
+    static constexpr bool addsToMap = true;
+};
 
-Status CDiscCommandNode::ParseAttributeMap(const map<string, string>& attributes)
-{
-    Attributes().Read(*this, attributes);
-    return status::kOk;
-}
-
-CDSCommandList::CDSCommandList() : CProjectNode(eNodeCommands)
+CDSCommandList::CDSCommandList() : FormedNode(eNodeCommands, kFormOf<CDSCommandList, Form>)
 {}
 
 CDSCommandList::~CDSCommandList() = default;
-
-Status CDSCommandList::FillAttributeMap(map<string, string>&, bool)
-{
-    return status::kOk;
-}
-
-Status CDSCommandList::ParseAttributeMap(const map<string, string>&)
-{
-    return status::kOk;
-}

@@ -1,18 +1,12 @@
 #pragma once
 
-#include "project/ProjectNode.h"
-#include "xml/XmlPtr.h"
+#include "project/FormedNode.h"
 
 #include <cstdint>
+#include <memory>
 #include <string>
-#include <vector>
 
-namespace vantrel {
-template <class Node>
-class AttributeTable;
-}
-
-/// The name of each command code, which is its element name too.
+/// The name of each command code, which is its element name too; that of code 0 is empty.
 inline constexpr const char* arCmdTags[10] = {
     "",
     "PlayTitleFromChapter",
@@ -36,10 +30,16 @@ struct DiscCommandParams
 
 /// One playback instruction of the finished disc. The library carries it; it carries nothing out.
 ///
-/// The code alone says which command it is: an element's name is not looked at on reading and
-/// follows the code on writing. A code outside the table has no name, is written under that of the
-/// first command and keeps its number. A command has no ID in the file.
-class VANTREL_API CDiscCommandNode : public CProjectNode
+/// Its element is named as `arCmdTags` has it. The code alone says which command it is: an element's
+/// name is not looked at on reading and follows the code on writing. A code outside the table has no
+/// name, is written under that of the first command and keeps its number. A command has no ID in the
+/// file.
+/// @code
+///     CDiscCommandNode play; // when the menu's button is pressed: title 11 from its second chapter
+///     play.SetCommandParams({ .code = 1, .param1 = 11, .param2 = 2 });
+///     button.GetChild(vantrel::ButtonChild::Commands)->AddChild(&play, true);
+/// @endcode
+class VANTREL_API CDiscCommandNode : public vantrel::FormedNode
 {
 public:
     CDiscCommandNode();
@@ -57,28 +57,22 @@ public:
     /// Writes the attributes and the kept sub-elements.
     vantrel::Status WriteXML(IXMLDOMNode* node, long native) override;
 
-    vantrel::Status FillAttributeMap(std::map<std::string, std::string>& attributes,
-                                     bool native) override;
-    vantrel::Status ParseAttributeMap(
-        const std::map<std::string, std::string>& attributes) override;
-
 private:
-    static vantrel::AttributeTable<CDiscCommandNode> Attributes();
+    struct Form;
+    struct Kept;
 
     DiscCommandParams m_params;
-    std::vector<vantrel::XmlNodePtr> m_kept; ///< "file" and "effect", in the file's order
+    std::unique_ptr<Kept> m_kept; ///< null for the many that keep nothing
 };
 
-/// The commands of a project, a title, a menu or a button: its children, in order.
-class VANTREL_API CDSCommandList : public CProjectNode
+/// "Commands": those of a project, a title, a menu or a button, its children in order. The element has
+/// no attributes.
+class VANTREL_API CDSCommandList : public vantrel::FormedNode
 {
 public:
     CDSCommandList();
     ~CDSCommandList() override;
 
-    /// The element has no attributes.
-    vantrel::Status FillAttributeMap(std::map<std::string, std::string>& attributes,
-                                     bool native) override;
-    vantrel::Status ParseAttributeMap(
-        const std::map<std::string, std::string>& attributes) override;
+private:
+    struct Form;
 };

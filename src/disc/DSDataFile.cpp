@@ -1,25 +1,34 @@
 #include "disc/DSDataFile.h"
 
+#include "core/Property.h"
 #include "project/NodeForm.h"
 
-using std::map;
 using std::string;
 using namespace vantrel;
+using namespace vantrel::attribute;
 
 // The attributes of "File".
-AttributeTable<CDSDataFile> CDSDataFile::Attributes()
+struct VANTREL_INTERNAL CDSDataFile::Form
 {
-    using namespace vantrel::attribute;
     static constexpr auto rows = Rows<CDSDataFile>(
         NodeID<CDSDataFile>("ID"), Text<&CDSDataFile::m_sourcePath>("sourcePath"),
         Text<&CDSDataFile::m_destPath>("destPath"), Decimal<&CDSDataFile::m_tag>("tag"));
-    return rows;
-}
+};
 
-CDSDataFile::CDSDataFile() : CProjectNode(eNodeFile, kFormOf<CDSDataFile, &CDSDataFile::Attributes>)
+CDSDataFile::CDSDataFile() : FormedNode(eNodeFile, kFormOf<CDSDataFile, Form>)
 {}
 
 CDSDataFile::~CDSDataFile() = default;
+
+// clang-format off
+Status CDSDataFile::get_ID(long* out) const { return Give(out, GetID()); }
+Status CDSDataFile::get_SourcePath(string* out) const { return Give(out, m_sourcePath); }
+Status CDSDataFile::put_SourcePath(string value) { return Take(m_sourcePath, std::move(value)); }
+Status CDSDataFile::get_DestPath(string* out) const { return Give(out, m_destPath); }
+Status CDSDataFile::put_DestPath(string value) { return Take(m_destPath, std::move(value)); }
+Status CDSDataFile::get_Tag(unsigned long* out) const { return Give(out, m_tag); }
+Status CDSDataFile::put_Tag(unsigned long value) { return Take(m_tag, value); }
+// clang-format on
 
 void CDSDataFile::CopyValues(const CDSDataFile& other)
 {
@@ -38,18 +47,5 @@ bool CDSDataFile::Matches(const string* source, const string* dest, unsigned lon
 Status CDSDataFile::IncrementUseCount()
 {
     ++m_useCount;
-    return status::kOk;
-}
-
-Status CDSDataFile::FillAttributeMap(map<string, string>& attributes, bool native)
-{
-    attributes.clear();
-    Attributes().Write(*this, native, attributes);
-    return status::kOk;
-}
-
-Status CDSDataFile::ParseAttributeMap(const map<string, string>& attributes)
-{
-    Attributes().Read(*this, attributes);
     return status::kOk;
 }

@@ -1,45 +1,31 @@
 #pragma once
 
-#include "core/Property.h"
-#include "project/ProjectNode.h"
+#include "project/FormedNode.h"
 
 #include <string>
 
-namespace vantrel {
-template <class Node>
-class AttributeTable;
-}
-
-/// One file that goes onto the disc beside the video. Data files live in the project's "DataFiles"
-/// list. Paths are stored as they are. A `get_` gives `status::kNullPointer` for null, else 0.
-class VANTREL_API CDSDataFile : public CProjectNode
+/// "File": one file that goes onto the disc beside the video. Data files live in the project's
+/// "DataFiles" list. Paths are stored as they are. A `get_` gives `status::kNullPointer` for null,
+/// else 0.
+class VANTREL_API CDSDataFile : public vantrel::FormedNode
 {
 public:
     CDSDataFile();
     ~CDSDataFile() override;
 
-    vantrel::Status get_ID(long* out) const { return vantrel::Give(out, GetID()); }
+    vantrel::Status get_ID(long* out) const;
 
     /// Where the file is found.
-    vantrel::Status get_SourcePath(std::string* out) const
-    {
-        return vantrel::Give(out, m_sourcePath);
-    }
-    vantrel::Status put_SourcePath(std::string value)
-    {
-        return vantrel::Take(m_sourcePath, std::move(value));
-    }
+    vantrel::Status get_SourcePath(std::string* out) const;
+    vantrel::Status put_SourcePath(std::string value);
 
     /// Where it goes on the disc.
-    vantrel::Status get_DestPath(std::string* out) const { return vantrel::Give(out, m_destPath); }
-    vantrel::Status put_DestPath(std::string value)
-    {
-        return vantrel::Take(m_destPath, std::move(value));
-    }
+    vantrel::Status get_DestPath(std::string* out) const;
+    vantrel::Status put_DestPath(std::string value);
 
     /// The kind of file; the numbers are the application's.
-    vantrel::Status get_Tag(unsigned long* out) const { return vantrel::Give(out, m_tag); }
-    vantrel::Status put_Tag(unsigned long value) { return vantrel::Take(m_tag, value); }
+    vantrel::Status get_Tag(unsigned long* out) const;
+    vantrel::Status put_Tag(unsigned long value);
 
     /// Takes over all that `other` is but its ID and its place in a tree.
     void CopyValues(const CDSDataFile& other);
@@ -50,13 +36,8 @@ public:
     /// Counts one more user of the file. The count is not in the file.
     vantrel::Status IncrementUseCount();
 
-    vantrel::Status FillAttributeMap(std::map<std::string, std::string>& attributes,
-                                     bool native) override;
-    vantrel::Status ParseAttributeMap(
-        const std::map<std::string, std::string>& attributes) override;
-
 private:
-    static vantrel::AttributeTable<CDSDataFile> Attributes();
+    struct Form;
 
     std::string m_sourcePath;
     std::string m_destPath;

@@ -1,22 +1,16 @@
 #include "disc/DSEncodingParams.h"
 
 #include "core/Property.h"
+#include "disc/ChildPositions.h"
 #include "project/NodeForm.h"
 
-using std::map;
 using std::string;
 using namespace vantrel;
-
-namespace {
-
-constexpr int kEncodingPosition = 4; // among the project's fixed children
-
-} // namespace
+using namespace vantrel::attribute;
 
 // The attributes of "Encoding". They are the node's own values, also while it is synchronised.
-AttributeTable<CDSEncodingParams> CDSEncodingParams::Attributes()
+struct VANTREL_INTERNAL CDSEncodingParams::Form
 {
-    using namespace vantrel::attribute;
     using Set = CDSEncodingParams;
     static constexpr auto rows = Rows<Set>(
         Enum<&Set::m_videoResolution>("videoResolution"), Enum<&Set::m_aspectRatio>("aspectRatio"),
@@ -28,11 +22,9 @@ AttributeTable<CDSEncodingParams> CDSEncodingParams::Attributes()
         Decimal<&Set::m_audioChannels>("audioChannels"),
         Bool<&Set::m_syncToProject>("syncToProject"), Bool<&Set::m_VBREncoding>("VBREncoding"),
         Bool<&Set::m_twoPassEncoding>("twoPassEncoding"));
-    return rows;
-}
+};
 
-CDSEncodingParams::CDSEncodingParams()
-    : CProjectNode(eNodeEncoding, kFormOf<CDSEncodingParams, &CDSEncodingParams::Attributes>)
+CDSEncodingParams::CDSEncodingParams() : FormedNode(eNodeEncoding, kFormOf<CDSEncodingParams, Form>)
 {}
 
 CDSEncodingParams::~CDSEncodingParams() = default;
@@ -44,7 +36,7 @@ const CDSEncodingParams& CDSEncodingParams::getParams() const
     CProjectNode* above = GetParent(); // the title or menu, then its list, then the project
     for (int level = 1; level < 3 && above; ++level)
         above = above->GetParent();
-    CProjectNode* shared = above ? above->GetChild(kEncodingPosition) : nullptr;
+    CProjectNode* shared = above ? above->GetChild(ProjectChild::Encoding) : nullptr;
     const auto* params = dynamic_cast<const CDSEncodingParams*>(shared);
     return params ? *params : *this;
 }
@@ -107,16 +99,3 @@ Status CDSEncodingParams::put_SubpictureFormat(SubpictureFormat value) { return 
 Status CDSEncodingParams::get_AudioChannels(long* out) { return Give(out, getParams().m_audioChannels); }
 Status CDSEncodingParams::put_AudioChannels(long value) { return Put(&CDSEncodingParams::m_audioChannels, value); }
 // clang-format on
-
-Status CDSEncodingParams::FillAttributeMap(map<string, string>& attributes, bool native)
-{
-    attributes.clear();
-    Attributes().Write(*this, native, attributes);
-    return status::kOk;
-}
-
-Status CDSEncodingParams::ParseAttributeMap(const map<string, string>& attributes)
-{
-    Attributes().Read(*this, attributes);
-    return status::kOk;
-}

@@ -1,19 +1,14 @@
 #pragma once
 
 #include "project/DiscEnums.h"
-#include "project/ProjectNode.h"
+#include "project/FormedNode.h"
 
-namespace vantrel {
-template <class Node>
-class AttributeTable;
-}
-
-/// The video and audio settings with which a title, a menu or the whole project is encoded.
+/// "Encoding": the video and audio settings with which a title, a menu or the whole project is encoded.
 ///
 /// A set below the project can be synchronised with the project's: while it is, reading a value
 /// gives the project's, and setting one is refused with `status::kSynchronised`. Its own values stay
 /// behind, and are what a save writes. A `get_X` gives `status::kNullPointer` for null.
-class VANTREL_API CDSEncodingParams : public CProjectNode
+class VANTREL_API CDSEncodingParams : public vantrel::FormedNode
 {
 public:
     CDSEncodingParams();
@@ -52,13 +47,8 @@ public:
     virtual vantrel::Status get_AudioChannels(long* out);
     virtual vantrel::Status put_AudioChannels(long value);
 
-    vantrel::Status FillAttributeMap(std::map<std::string, std::string>& attributes,
-                                     bool native) override;
-    vantrel::Status ParseAttributeMap(
-        const std::map<std::string, std::string>& attributes) override;
-
 private:
-    static vantrel::AttributeTable<CDSEncodingParams> Attributes();
+    struct Form;
     template <class T>
     vantrel::Status Put(T CDSEncodingParams::*field, T value);
 

@@ -1,6 +1,8 @@
 #include "disc/DSMenu.h"
 
 #include "core/PathUtils.h"
+#include "core/Property.h"
+#include "disc/ChildPositions.h"
 #include "disc/DSCommandList.h"
 #include "disc/DSEncodingParams.h"
 #include "disc/DSMenuButton.h"
@@ -12,23 +14,16 @@
 #include "storyboard/QZBaseSBD.h"
 #include "storyboard/SbdUtils.h"
 
-using std::map;
 using std::string;
 using std::string_view;
 using namespace vantrel;
+using namespace vantrel::attribute;
 
 long g_MenuInstanceID = 0;
 
 namespace {
 
 constexpr const char* kTemplate = ".pvtx"; // in the name of a theme's template
-
-/// Positions of the fixed children that are asked for.
-enum : int
-{
-    kLayoutRect = 5,
-    kElements = 8
-};
 
 /// "0x" and the low 32 bits; a text of another form reads as all bits.
 template <auto Field>
@@ -66,10 +61,9 @@ constexpr AttributeRow<CDSMenu> FilePath(const char* name)
 } // namespace
 
 // The attributes of "Menu".
-AttributeTable<CDSMenu> CDSMenu::Attributes()
+struct VANTREL_INTERNAL CDSMenu::Form
 {
-    using namespace vantrel::attribute;
-    constexpr auto native = [](const CDSMenu& menu) { return menu.m_native; };
+    static constexpr auto native = [](const CDSMenu& menu) { return menu.m_native; };
     static constexpr auto rows = Rows<CDSMenu>(
         NodeID<CDSMenu>("ID"), Hex32<&CDSMenu::m_btnLayout>("btnLayout").WhenAbsent(""),
         Flags<&CDSMenu::m_tag, FormatMenuTag>("tag"),
@@ -83,35 +77,56 @@ AttributeTable<CDSMenu> CDSMenu::Attributes()
             .If(native),
         FilePath<&CDSMenu::m_audio, &CDSMenu::m_isAudioInContent>("audio").If(native),
         Real<&CDSMenu::m_duration>("duration").If(native));
-    return { rows, FinishReading };
-}
+    static constexpr FixedChild children[] = {
+        Fixed<CPaletteNode>(eNodePalette),
+        Fixed<CButtonSchemeNode>(eNodeButtonScheme, "ButtonScheme1"),
+        Fixed<CButtonSchemeNode>(eNodeButtonScheme, "ButtonScheme2"),
+        Fixed<CButtonSchemeNode>(eNodeButtonScheme, "ButtonScheme3"),
+        Fixed<CSPUColourNode>(eNodeSPUColours),
+        Fixed<CLayoutRectNode>(eNodeLayoutRect),
+        Fixed<CDSCommandList>(eNodeCommands),
+        Fixed<CDSEncodingParams>(eNodeEncoding),
+        Fixed<CDSMenuElementList>(eNodeElements),
+    };
 
-void CDSMenu::FinishReading(CDSMenu& menu)
-{
-    if (menu.m_native)
-        (void)menu.LoadBkngProdFromPVTX(menu.m_background); // without a template it stays empty
-}
+    static void Finish(CDSMenu& menu)
+    {
+        if (menu.m_native)
+            (void)menu.LoadBkngProdFromPVTX(menu.m_background); // without a template it stays empty
+    }
+};
 
-CDSMenu::CDSMenu() : CProjectNode(eNodeMenu, kFormOf<CDSMenu, &CDSMenu::Attributes>)
+CDSMenu::CDSMenu() : FormedNode(eNodeMenu, kFormOf<CDSMenu, Form>)
 {
-    (void)FinalConstruct(); // fails only where the constructor would have thrown
+    (void)FinalConstruct(); // can be asked for again
 }
 
 CDSMenu::~CDSMenu() = default;
 
+// clang-format off
+bool CDSMenu::IsNative() const { return m_native; }
+Status CDSMenu::get_ID(long* out) const { return Give(out, GetID()); }
+Status CDSMenu::get_Tag(unsigned long* out) const { return Give(out, m_tag); }
+Status CDSMenu::put_Tag(unsigned long value) { return Take(m_tag, value); }
+Status CDSMenu::get_Flags(unsigned long* out) const { return Give(out, m_flags); }
+Status CDSMenu::put_Flags(unsigned long value) { return Take(m_flags, value); }
+Status CDSMenu::get_Label(string* out) const { return Give(out, m_label); }
+Status CDSMenu::put_Label(string value) { return Take(m_label, std::move(value)); }
+Status CDSMenu::get_TemplateID(long* out) const { return Give(out, m_templateID); }
+Status CDSMenu::put_TemplateID(long value) { return Take(m_templateID, value); }
+Status CDSMenu::put_ButtonLayout(unsigned long packed) { return Take(m_btnLayout, packed); }
+Status CDSMenu::get_DefaultButton(long* out) const { return Give(out, m_defaultButton); }
+Status CDSMenu::get_IsNative(bool* out) const { return Give(out, m_native); }
+Status CDSMenu::get_BkgndID(long* out) const { return Give(out, m_bkgndID); }
+Status CDSMenu::get_Audio(string* out) const { return Give(out, m_audio); }
+Status CDSMenu::put_Duration(double value) { return Take(m_duration, value); }
+Status CDSMenu::GetContentCount(long* out) const { return Give(out, m_contentCount); }
+// clang-format on
+
 Status CDSMenu::FinalConstruct()
 {
-    if (GetNumChildren() == 0) {
-        AdoptChild(std::make_unique<CPaletteNode>(), true);
-        for (const char* name : { "ButtonScheme1", "ButtonScheme2", "ButtonScheme3" })
-            AdoptChild(std::make_unique<CButtonSchemeNode>(name), true);
-        AdoptChild(std::make_unique<CSPUColourNode>(), true);
-        AdoptChild(std::make_unique<CLayoutRectNode>(), true);
-        AdoptChild(std::make_unique<CDSCommandList>(), true);
-        AdoptChild(std::make_unique<CDSEncodingParams>(), true);
-        AdoptChild(std::make_unique<CDSMenuElementList>(), true);
-    }
-    return m_native ? status::kOk : CreateProduction();
+    const Status made = MakeFixedChildren(true);
+    return Failed(made) || m_native ? made : CreateProduction();
 }
 
 Status CDSMenu::FinalRelease()
@@ -123,9 +138,12 @@ Status CDSMenu::CreateProduction()
 {
     if (m_production)
         return status::kNothingDone;
-    m_production = std::make_unique<CQZBaseSBD>();
-    (void)m_production->NewProduction(); // a fresh storyboard has nothing to fail on
-    return status::kOk;
+    return Guarded([this] {
+        auto production = std::make_unique<CQZBaseSBD>();
+        (void)production->NewProduction(); // a fresh storyboard has nothing to fail on
+        m_production = std::move(production);
+        return status::kOk;
+    });
 }
 
 Status CDSMenu::ReleaseProduction()
@@ -181,20 +199,20 @@ Status CDSMenu::get_ButtonLayout(CDSLayout* out) const
 
 Status CDSMenu::get_LayoutRect(FloatRect* out)
 {
-    const auto* rect = dynamic_cast<CLayoutRectNode*>(GetChild(kLayoutRect));
+    const auto* rect = dynamic_cast<CLayoutRectNode*>(GetChild(MenuChild::LayoutRect));
     return rect ? rect->GetLayoutRect(out) : status::kNullPointer;
 }
 
 Status CDSMenu::put_LayoutRect(FloatRect* in)
 {
-    auto* rect = dynamic_cast<CLayoutRectNode*>(GetChild(kLayoutRect));
+    auto* rect = dynamic_cast<CLayoutRectNode*>(GetChild(MenuChild::LayoutRect));
     return rect ? rect->SetLayoutRect(in) : status::kNullPointer;
 }
 
 Status CDSMenu::put_DefaultButton(long id)
 {
     if (id != 0) {
-        CProjectNode* elements = GetChild(kElements);
+        CProjectNode* elements = GetChild(MenuChild::Elements);
         if (!elements)
             return status::kNullPointer;
         const CProjectNode* button =
@@ -249,7 +267,7 @@ Status CDSMenu::SetPalette(long)
 
 Status CDSMenu::get_ButtonCount(long* out)
 {
-    CProjectNode* elements = GetChild(kElements);
+    CProjectNode* elements = GetChild(MenuChild::Elements);
     long count = 0;
     for (int i = 0; elements && i < elements->GetNumChildren(); ++i)
         count += elements->GetChild(i)->GetType() == eNodeButton;
@@ -260,7 +278,7 @@ Status CDSMenu::GetButton(long index, CDSMenuButton** out)
 {
     if (!out)
         return status::kNullPointer;
-    CProjectNode* elements = index > 0 ? GetChild(kElements) : nullptr;
+    CProjectNode* elements = index > 0 ? GetChild(MenuChild::Elements) : nullptr;
     for (int i = 0; elements && i < elements->GetNumChildren(); ++i) {
         CProjectNode* element = elements->GetChild(i);
         if (element->GetType() == eNodeButton && --index == 0) {
@@ -269,17 +287,4 @@ Status CDSMenu::GetButton(long index, CDSMenuButton** out)
         }
     }
     return status::kNothingDone;
-}
-
-Status CDSMenu::FillAttributeMap(map<string, string>& attributes, bool native)
-{
-    attributes.clear();
-    Attributes().Write(*this, native, attributes);
-    return status::kOk;
-}
-
-Status CDSMenu::ParseAttributeMap(const map<string, string>& attributes)
-{
-    Attributes().Read(*this, attributes);
-    return status::kOk;
 }

@@ -1,9 +1,8 @@
 #pragma once
 
-#include "core/Property.h"
 #include "core/Types.h"
 #include "disc/DSLayout.h"
-#include "project/ProjectNode.h"
+#include "project/FormedNode.h"
 
 #include <memory>
 #include <string>
@@ -11,34 +10,36 @@
 class CDSMenuButton;
 class CQZBaseSBD;
 
-namespace vantrel {
-template <class Node>
-class AttributeTable;
-}
-
 /// Free for the application's use; the library neither reads nor writes it.
 VANTREL_API extern long g_MenuInstanceID;
 
-/// One menu of the disc, with the storyboard that plays behind its elements.
+/// "Menu": one menu of the disc, with the storyboard that plays behind its elements.
 ///
 /// An ordinary menu's storyboard stands in the project file. A native menu's comes from a template,
 /// the ".pvtx" file of a theme that the menu's background names: it is loaded whenever the menu is
 /// read, and isn't written to the project file.
 ///
-/// Nine fixed children stand at positions that are part of the model: 0 "Palette", 1 to 3
-/// "ButtonScheme1" to "ButtonScheme3", 4 "SPUColours", 5 "LayoutRect", 6 "Commands", 7 "Encoding",
-/// 8 "Elements". Menus live in the project's "Menus" list.
+/// The fixed children stand at the positions of `MenuChild`; buttons, overlays and texts of the menu
+/// itself stand in its "Elements". Menus live in the project's "Menus" list.
+/// @code
+///     CDSMenu menu;
+///     CDSMenuButton play;
+///     menu.GetChild(vantrel::MenuChild::Elements)->AddChild(&play, true);
+///     menu.put_DefaultButton(play.GetID());
+///     project.AddMenu(0, &menu);
+/// @endcode
 ///
 /// Every `get_X` copies the value to `out` and gives `status::kNullPointer` for null; a `put_X`
 /// stores the value and gives 0 unless it says more. Durations are seconds.
-class VANTREL_API CDSMenu : public CProjectNode
+class VANTREL_API CDSMenu : public vantrel::FormedNode
 {
 public:
     /// Makes the children and an empty storyboard.
     CDSMenu();
     ~CDSMenu() override;
 
-    /// Makes what the menu doesn't have yet of children and storyboard.
+    /// Makes what the menu doesn't have yet of fixed children and storyboard. Gives
+    /// `status::kNoMemory` when that fails.
     vantrel::Status FinalConstruct();
     /// Releases the storyboard; the destructor does so too.
     vantrel::Status FinalRelease();
@@ -65,32 +66,26 @@ public:
 
     /// @name Properties
     /// @{
-    vantrel::Status get_ID(long* out) const { return vantrel::Give(out, GetID()); }
+    vantrel::Status get_ID(long* out) const;
 
     /// Bits of `MenuTypes`.
-    vantrel::Status get_Tag(unsigned long* out) const { return vantrel::Give(out, m_tag); }
-    vantrel::Status put_Tag(unsigned long value) { return vantrel::Take(m_tag, value); }
+    vantrel::Status get_Tag(unsigned long* out) const;
+    vantrel::Status put_Tag(unsigned long value);
 
     /// Bits named by `FormatMenuFlag`.
-    vantrel::Status get_Flags(unsigned long* out) const { return vantrel::Give(out, m_flags); }
-    vantrel::Status put_Flags(unsigned long value) { return vantrel::Take(m_flags, value); }
+    vantrel::Status get_Flags(unsigned long* out) const;
+    vantrel::Status put_Flags(unsigned long value);
 
-    vantrel::Status get_Label(std::string* out) const { return vantrel::Give(out, m_label); }
-    vantrel::Status put_Label(std::string value)
-    {
-        return vantrel::Take(m_label, std::move(value));
-    }
+    vantrel::Status get_Label(std::string* out) const;
+    vantrel::Status put_Label(std::string value);
 
     /// The ID of the template menu that this one was made from; 0 for none.
-    vantrel::Status get_TemplateID(long* out) const { return vantrel::Give(out, m_templateID); }
-    vantrel::Status put_TemplateID(long value) { return vantrel::Take(m_templateID, value); }
+    vantrel::Status get_TemplateID(long* out) const;
+    vantrel::Status put_TemplateID(long value);
 
     /// A packed value of 0 reads as the default layout.
     vantrel::Status get_ButtonLayout(CDSLayout* out) const;
-    vantrel::Status put_ButtonLayout(unsigned long packed)
-    {
-        return vantrel::Take(m_btnLayout, packed);
-    }
+    vantrel::Status put_ButtonLayout(unsigned long packed);
 
     /// The rectangle of child 5; without that child `status::kNullPointer`.
     vantrel::Status get_LayoutRect(FloatRect* out);
@@ -98,22 +93,19 @@ public:
 
     /// The ID of a button in this menu's list; 0 for none. Any other gives `status::kNotAButton`,
     /// and a menu without its list `status::kNullPointer`; nothing is changed then.
-    vantrel::Status get_DefaultButton(long* out) const
-    {
-        return vantrel::Give(out, m_defaultButton);
-    }
+    vantrel::Status get_DefaultButton(long* out) const;
     vantrel::Status put_DefaultButton(long id);
 
     /// Only a file makes a menu native.
-    vantrel::Status get_IsNative(bool* out) const { return vantrel::Give(out, m_native); }
-    bool IsNative() const { return m_native; }
+    vantrel::Status get_IsNative(bool* out) const;
+    bool IsNative() const;
 
     /// Putting it also clears the background's path.
-    vantrel::Status get_BkgndID(long* out) const { return vantrel::Give(out, m_bkgndID); }
+    vantrel::Status get_BkgndID(long* out) const;
     vantrel::Status put_BkgndID(long value);
 
     /// Only a file sets it, for a native menu.
-    vantrel::Status get_Audio(std::string* out) const { return vantrel::Give(out, m_audio); }
+    vantrel::Status get_Audio(std::string* out) const;
 
     /// The background's path; where that is a template, the background video of the storyboard,
     /// which leaves `out` alone if it has none.
@@ -125,10 +117,10 @@ public:
     /// The stored duration of a native menu and of one with a background ID above 0; of any other
     /// that of the storyboard, if it has one.
     vantrel::Status get_Duration(double* out) const;
-    vantrel::Status put_Duration(double value) { return vantrel::Take(m_duration, value); }
+    vantrel::Status put_Duration(double value);
 
     /// A count that a file brought; it isn't written.
-    vantrel::Status GetContentCount(long* out) const { return vantrel::Give(out, m_contentCount); }
+    vantrel::Status GetContentCount(long* out) const;
 
     /// Changes nothing: a palette is set on child 0.
     vantrel::Status SetPalette(long palette);
@@ -142,14 +134,8 @@ public:
     vantrel::Status GetButton(long index, CDSMenuButton** out);
     /// @}
 
-    vantrel::Status FillAttributeMap(std::map<std::string, std::string>& attributes,
-                                     bool native) override;
-    vantrel::Status ParseAttributeMap(
-        const std::map<std::string, std::string>& attributes) override;
-
 private:
-    static vantrel::AttributeTable<CDSMenu> Attributes();
-    static void FinishReading(CDSMenu& menu);
+    struct Form;
 
     bool m_native = false;
     unsigned long m_tag = 0;

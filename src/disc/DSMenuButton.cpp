@@ -1,5 +1,7 @@
 #include "disc/DSMenuButton.h"
 
+#include "core/Property.h"
+#include "disc/ChildPositions.h"
 #include "disc/DSCommandList.h"
 #include "disc/DSMenu.h"
 #include "disc/DSMenuElementList.h"
@@ -9,19 +11,11 @@
 #include "menu/GeometryUtils.h"
 #include "project/NodeForm.h"
 
-using std::map;
 using std::string;
 using namespace vantrel;
+using namespace vantrel::attribute;
 
 namespace {
-
-/// Positions of the fixed children that are asked for.
-enum : int
-{
-    kLinks = 0,
-    kActiveRegion = 1,
-    kElements = 3
-};
 
 /// Whether an element of a button lights up with it; what says nothing of it does.
 bool IsHighlighted(CProjectNode& element)
@@ -38,73 +32,57 @@ bool IsHighlighted(CProjectNode& element)
 } // namespace
 
 // The attributes of "Links".
-AttributeTable<CButtonLinksNode> CButtonLinksNode::Attributes()
+struct VANTREL_INTERNAL CButtonLinksNode::Form
 {
-    using namespace vantrel::attribute;
     using Links = CButtonLinksNode;
     static constexpr auto rows =
         Rows<Links>(DecimalIn<&Links::m_links, &ButtonLinks::left>("left"),
                     DecimalIn<&Links::m_links, &ButtonLinks::right>("right"),
                     DecimalIn<&Links::m_links, &ButtonLinks::upper>("upper"),
                     DecimalIn<&Links::m_links, &ButtonLinks::lower>("lower"));
-    return rows;
-}
+    static constexpr bool addsToMap = true;
+};
 
-CButtonLinksNode::CButtonLinksNode()
-    : CProjectNode(eNodeLinks, kFormOf<CButtonLinksNode, &CButtonLinksNode::Attributes>)
+CButtonLinksNode::CButtonLinksNode() : FormedNode(eNodeLinks, kFormOf<CButtonLinksNode, Form>)
 {}
 
 CButtonLinksNode::~CButtonLinksNode() = default;
 
-Status CButtonLinksNode::FillAttributeMap(map<string, string>& attributes, bool native)
-{
-    Attributes().Write(*this, native, attributes);
-    return status::kOk;
-}
-
-Status CButtonLinksNode::ParseAttributeMap(const map<string, string>& attributes)
-{
-    Attributes().Read(*this, attributes);
-    return status::kOk;
-}
+// clang-format off
+ButtonLinks* CButtonLinksNode::Links() { return &m_links; }
+Status CButtonLinksNode::GetButtonLinks(ButtonLinks* out) const { return Give(out, m_links); }
+Status CButtonLinksNode::SetButtonLinks(ButtonLinks links) { return Take(m_links, links); }
+// clang-format on
 
 // The attributes of "ActiveRegion".
-AttributeTable<CActiveRgnNode> CActiveRgnNode::Attributes()
+struct VANTREL_INTERNAL CActiveRgnNode::Form
 {
-    using namespace vantrel::attribute;
     using Region = CActiveRgnNode;
     static constexpr auto rows = Rows<Region>(
         Bool<&Region::m_valid>("valid"), RealIn<&Region::m_region, &FloatRect::left>("left"),
         RealIn<&Region::m_region, &FloatRect::top>("top"),
         RealIn<&Region::m_region, &FloatRect::right>("right"),
         RealIn<&Region::m_region, &FloatRect::bottom>("bottom"));
-    return rows;
-}
+    static constexpr bool addsToMap = true;
+};
 
-CActiveRgnNode::CActiveRgnNode()
-    : CProjectNode(eNodeActiveRegion, kFormOf<CActiveRgnNode, &CActiveRgnNode::Attributes>)
+CActiveRgnNode::CActiveRgnNode() : FormedNode(eNodeActiveRegion, kFormOf<CActiveRgnNode, Form>)
 {}
 
 CActiveRgnNode::~CActiveRgnNode() = default;
 
-Status CActiveRgnNode::FillAttributeMap(map<string, string>& attributes, bool native)
-{
-    Attributes().Write(*this, native, attributes);
-    return status::kOk;
-}
-
-Status CActiveRgnNode::ParseAttributeMap(const map<string, string>& attributes)
-{
-    Attributes().Read(*this, attributes);
-    return status::kOk;
-}
+// clang-format off
+Status CActiveRgnNode::GetValid(bool* out) const { return Give(out, m_valid); }
+Status CActiveRgnNode::SetValid(bool value) { return Take(m_valid, value); }
+Status CActiveRgnNode::GetActiveRgn(FloatRect* out) const { return Give(out, m_region); }
+Status CActiveRgnNode::SetActiveRgn(FloatRect rect) { return Take(m_region, rect); }
+// clang-format on
 
 // The attributes of "Button".
-AttributeTable<CDSMenuButton> CDSMenuButton::Attributes()
+struct VANTREL_INTERNAL CDSMenuButton::Form
 {
-    using namespace vantrel::attribute;
     using Button = CDSMenuButton;
-    constexpr auto native = [](const Button& button) { return button.IsNative(); };
+    static constexpr auto native = [](const Button& button) { return button.IsNative(); };
     static constexpr auto rows =
         Rows<Button>(NodeID<Button>("ID"), Decimal<&Button::m_scheme>("scheme"),
                      Decimal<&Button::m_userData>("userdata"), Text<&Button::m_label>("label"),
@@ -112,26 +90,40 @@ AttributeTable<CDSMenuButton> CDSMenuButton::Attributes()
                      Text<&Button::m_buttonTextCache>("buttonTextCache"),
                      Decimal<&Button::m_linkTitleIndex>("linkTitleIndex").ReadOnly(),
                      ButtonRows<Button>::All(native));
-    return rows;
-}
+    static constexpr FixedChild children[] = {
+        Fixed<CButtonLinksNode>(eNodeLinks),
+        Fixed<CActiveRgnNode>(eNodeActiveRegion),
+        Fixed<CDSCommandList>(eNodeCommands),
+        Fixed<CDSMenuElementList>(eNodeElements),
+    };
+};
 
-CDSMenuButton::CDSMenuButton()
-    : ElementNode(eNodeButton, kFormOf<CDSMenuButton, &CDSMenuButton::Attributes>)
+CDSMenuButton::CDSMenuButton() : ElementNode(eNodeButton, kFormOf<CDSMenuButton, Form>)
 {
-    (void)FinalConstruct(); // fails only where the constructor would have thrown
+    (void)FinalConstruct(); // can be asked for again
 }
 
 CDSMenuButton::~CDSMenuButton() = default;
 
+// clang-format off
+Status CDSMenuButton::GetPosition(float* x, float* y) { return getPosition(x, y); }
+Status CDSMenuButton::SetPosition(float x, float y) { return setPosition(x, y); }
+Status CDSMenuButton::get_ButtonScheme(long* out) const { return Give(out, m_scheme); }
+Status CDSMenuButton::put_ButtonScheme(long value) { return Take(m_scheme, value); }
+Status CDSMenuButton::get_Label(string* out) const { return Give(out, m_label); }
+Status CDSMenuButton::put_Label(string value) { return Take(m_label, std::move(value)); }
+Status CDSMenuButton::get_ButtonStyle(string* out) const { return Give(out, m_buttonStyle); }
+Status CDSMenuButton::put_ButtonStyle(string value) { return Take(m_buttonStyle, std::move(value)); }
+Status CDSMenuButton::get_ButtonTextCache(string* out) const { return Give(out, m_buttonTextCache); }
+Status CDSMenuButton::put_ButtonTextCache(string value) { return Take(m_buttonTextCache, std::move(value)); }
+Status CDSMenuButton::get_UserData(long* out) const { return Give(out, m_userData); }
+Status CDSMenuButton::put_UserData(long value) { return Take(m_userData, value); }
+Status CDSMenuButton::get_LinkTitleIndex(long* out) const { return Give(out, m_linkTitleIndex); }
+// clang-format on
+
 Status CDSMenuButton::FinalConstruct()
 {
-    if (GetNumChildren() > 0)
-        return status::kOk;
-    AdoptChild(std::make_unique<CButtonLinksNode>(), true);
-    AdoptChild(std::make_unique<CActiveRgnNode>(), true);
-    AdoptChild(std::make_unique<CDSCommandList>(), true);
-    AdoptChild(std::make_unique<CDSMenuElementList>(), true);
-    return status::kOk;
+    return MakeFixedChildren(true);
 }
 
 bool CDSMenuButton::IsNative() const
@@ -150,7 +142,7 @@ Status CDSMenuButton::GetHighlightRegion(FloatRect* out)
 {
     FRect region;
     Status result = status::kNothingDone;
-    CProjectNode* elements = GetChild(kElements);
+    CProjectNode* elements = GetChild(ButtonChild::Elements);
     for (int i = 0; elements && i < elements->GetNumChildren(); ++i) {
         const CMenuElementImpl* element = ElementOf(elements->GetChild(i));
         FRect extent;
@@ -167,7 +159,7 @@ Status CDSMenuButton::GetHighlightRegion(FloatRect* out)
 
 Status CDSMenuButton::get_ActiveRegion(FloatRect* region, bool* valid)
 {
-    const auto* node = dynamic_cast<CActiveRgnNode*>(GetChild(kActiveRegion));
+    const auto* node = dynamic_cast<CActiveRgnNode*>(GetChild(ButtonChild::ActiveRegion));
     if (!node || !region || !valid)
         return status::kNullPointer;
     (void)node->GetActiveRgn(region); // both outputs are there
@@ -176,7 +168,7 @@ Status CDSMenuButton::get_ActiveRegion(FloatRect* region, bool* valid)
 
 Status CDSMenuButton::put_ActiveRegion(FloatRect* region, bool valid)
 {
-    auto* node = dynamic_cast<CActiveRgnNode*>(GetChild(kActiveRegion));
+    auto* node = dynamic_cast<CActiveRgnNode*>(GetChild(ButtonChild::ActiveRegion));
     if (!node || !region)
         return status::kNullPointer;
     (void)node->SetActiveRgn(*region); // takes any
@@ -185,30 +177,17 @@ Status CDSMenuButton::put_ActiveRegion(FloatRect* region, bool valid)
 
 Status CDSMenuButton::get_ButtonLinks(ButtonLinks** out)
 {
-    auto* node = dynamic_cast<CButtonLinksNode*>(GetChild(kLinks));
+    auto* node = dynamic_cast<CButtonLinksNode*>(GetChild(ButtonChild::Links));
     return node ? Give(out, node->Links()) : status::kNullPointer;
 }
 
 Status CDSMenuButton::put_ButtonLinks(ButtonLinks* links)
 {
-    auto* node = dynamic_cast<CButtonLinksNode*>(GetChild(kLinks));
+    auto* node = dynamic_cast<CButtonLinksNode*>(GetChild(ButtonChild::Links));
     return node && links ? node->SetButtonLinks(*links) : status::kNullPointer;
 }
 
 Status CDSMenuButton::GetAnchorElement(CDSMenuElement*)
 {
-    return status::kOk;
-}
-
-Status CDSMenuButton::FillAttributeMap(map<string, string>& attributes, bool native)
-{
-    attributes.clear();
-    Attributes().Write(*this, native, attributes);
-    return status::kOk;
-}
-
-Status CDSMenuButton::ParseAttributeMap(const map<string, string>& attributes)
-{
-    Attributes().Read(*this, attributes);
     return status::kOk;
 }

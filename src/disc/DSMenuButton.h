@@ -5,6 +5,8 @@
 
 #include <string>
 
+extern template class VANTREL_API vantrel::ElementNode<CMenuButtonImpl>;
+
 class CDSMenuElement;
 
 /// Where the remote control leads from a button: the numbers of the neighbours, 0 for none.
@@ -16,61 +18,54 @@ struct ButtonLinks
     long lower = 0;
 };
 
-/// The links of a button, as a node of its own.
-class VANTREL_API CButtonLinksNode : public CProjectNode
+/// "Links": those of a button, as a node of its own.
+class VANTREL_API CButtonLinksNode : public vantrel::FormedNode
 {
 public:
     CButtonLinksNode();
     ~CButtonLinksNode() override;
 
     /// Null gives `status::kNullPointer`.
-    vantrel::Status GetButtonLinks(ButtonLinks* out) const { return vantrel::Give(out, m_links); }
-    vantrel::Status SetButtonLinks(ButtonLinks links) { return vantrel::Take(m_links, links); }
+    vantrel::Status GetButtonLinks(ButtonLinks* out) const;
+    vantrel::Status SetButtonLinks(ButtonLinks links);
     /// The links themselves, which live as long as the node.
-    ButtonLinks* Links() { return &m_links; }
-
-    vantrel::Status FillAttributeMap(std::map<std::string, std::string>& attributes,
-                                     bool native) override;
-    vantrel::Status ParseAttributeMap(
-        const std::map<std::string, std::string>& attributes) override;
+    ButtonLinks* Links();
 
 private:
-    static vantrel::AttributeTable<CButtonLinksNode> Attributes();
+    struct Form;
 
     ButtonLinks m_links;
 };
 
-/// The rectangle in which a pointer selects a button. Its sides are neither ordered nor checked.
-class VANTREL_API CActiveRgnNode : public CProjectNode
+/// "ActiveRegion": the rectangle in which a pointer selects a button. Its sides are neither ordered nor checked.
+class VANTREL_API CActiveRgnNode : public vantrel::FormedNode
 {
 public:
     CActiveRgnNode();
     ~CActiveRgnNode() override;
 
     /// Whether the rectangle counts.
-    vantrel::Status GetValid(bool* out) const { return vantrel::Give(out, m_valid); }
-    vantrel::Status SetValid(bool value) { return vantrel::Take(m_valid, value); }
+    vantrel::Status GetValid(bool* out) const;
+    vantrel::Status SetValid(bool value);
 
     /// Null gives `status::kNullPointer`.
-    vantrel::Status GetActiveRgn(FloatRect* out) const { return vantrel::Give(out, m_region); }
-    vantrel::Status SetActiveRgn(FloatRect rect) { return vantrel::Take(m_region, rect); }
-
-    vantrel::Status FillAttributeMap(std::map<std::string, std::string>& attributes,
-                                     bool native) override;
-    vantrel::Status ParseAttributeMap(
-        const std::map<std::string, std::string>& attributes) override;
+    vantrel::Status GetActiveRgn(FloatRect* out) const;
+    vantrel::Status SetActiveRgn(FloatRect rect);
 
 private:
-    static vantrel::AttributeTable<CActiveRgnNode> Attributes();
+    struct Form;
 
     bool m_valid = false;
     FloatRect m_region;
 };
 
-/// One button of a menu.
-///
-/// Four fixed children stand at positions that are part of the model: 0 "Links", 1 "ActiveRegion",
-/// 2 "Commands", 3 "Elements", the overlays and texts that make up the button.
+/// "Button": one button of a menu. The overlays and texts that make it up stand in its "Elements"; its
+/// fixed children have the positions of `ButtonChild`.
+/// @code
+///     ButtonLinks links{ .right = next.GetID() }; // the others stay 0: nowhere
+///     button.put_ButtonLinks(&links);
+///     button.GetChild(vantrel::ButtonChild::Elements)->AddChild(&caption, true);
+/// @endcode
 ///
 /// Position, rotation and depth stand in the file for the buttons of native menus alone. Every
 /// `get_X` gives `status::kNullPointer` for null; a `put_X` stores the value and gives 0 unless it
@@ -82,12 +77,13 @@ public:
     CDSMenuButton();
     ~CDSMenuButton() override;
 
-    /// Makes the children, if there are none yet.
+    /// Makes the fixed children that aren't there, which is all in the constructor. Gives
+    /// `status::kNoMemory` when that fails.
     vantrel::Status FinalConstruct();
 
     /// The position of the element part, which an anchor may lend.
-    vantrel::Status GetPosition(float* x, float* y) override { return getPosition(x, y); }
-    vantrel::Status SetPosition(float x, float y) override { return setPosition(x, y); }
+    vantrel::Status GetPosition(float* x, float* y) override;
+    vantrel::Status SetPosition(float x, float y) override;
 
     /// A button has no corners of its own: always `status::kNoBoundingBox`.
     vantrel::Status GetBoundingBox(FloatPoint* out) override;
@@ -102,43 +98,25 @@ public:
     /// @name Properties
     /// @{
     /// Which of the menu's button schemes the button uses.
-    vantrel::Status get_ButtonScheme(long* out) const { return vantrel::Give(out, m_scheme); }
-    vantrel::Status put_ButtonScheme(long value) { return vantrel::Take(m_scheme, value); }
+    vantrel::Status get_ButtonScheme(long* out) const;
+    vantrel::Status put_ButtonScheme(long value);
 
-    vantrel::Status get_Label(std::string* out) const { return vantrel::Give(out, m_label); }
-    vantrel::Status put_Label(std::string value)
-    {
-        return vantrel::Take(m_label, std::move(value));
-    }
+    vantrel::Status get_Label(std::string* out) const;
+    vantrel::Status put_Label(std::string value);
 
-    vantrel::Status get_ButtonStyle(std::string* out) const
-    {
-        return vantrel::Give(out, m_buttonStyle);
-    }
-    vantrel::Status put_ButtonStyle(std::string value)
-    {
-        return vantrel::Take(m_buttonStyle, std::move(value));
-    }
+    vantrel::Status get_ButtonStyle(std::string* out) const;
+    vantrel::Status put_ButtonStyle(std::string value);
 
-    vantrel::Status get_ButtonTextCache(std::string* out) const
-    {
-        return vantrel::Give(out, m_buttonTextCache);
-    }
-    vantrel::Status put_ButtonTextCache(std::string value)
-    {
-        return vantrel::Take(m_buttonTextCache, std::move(value));
-    }
+    vantrel::Status get_ButtonTextCache(std::string* out) const;
+    vantrel::Status put_ButtonTextCache(std::string value);
 
     /// Kept for the application.
-    vantrel::Status get_UserData(long* out) const { return vantrel::Give(out, m_userData); }
-    vantrel::Status put_UserData(long value) { return vantrel::Take(m_userData, value); }
+    vantrel::Status get_UserData(long* out) const;
+    vantrel::Status put_UserData(long value);
 
     /// The index of the title that the button links to, -1 for none. Only a file brings it, and it
     /// isn't written.
-    vantrel::Status get_LinkTitleIndex(long* out) const
-    {
-        return vantrel::Give(out, m_linkTitleIndex);
-    }
+    vantrel::Status get_LinkTitleIndex(long* out) const;
     /// @}
 
     /// @name Children
@@ -155,13 +133,8 @@ public:
     vantrel::Status GetAnchorElement(CDSMenuElement* out);
     /// @}
 
-    vantrel::Status FillAttributeMap(std::map<std::string, std::string>& attributes,
-                                     bool native) override;
-    vantrel::Status ParseAttributeMap(
-        const std::map<std::string, std::string>& attributes) override;
-
 private:
-    static vantrel::AttributeTable<CDSMenuButton> Attributes();
+    struct Form;
 
     long m_scheme = 0;
     std::string m_label;

@@ -8,10 +8,10 @@
 #include <iterator>
 #include <string>
 
-using std::map;
 using std::string;
 using std::string_view;
 using namespace vantrel;
+using namespace vantrel::attribute;
 
 namespace {
 
@@ -21,7 +21,7 @@ constexpr unsigned char kHighest = 15; // of a palette index and of a contrast
 template <auto Assignment, auto Value>
 constexpr auto Byte(const char* name)
 {
-    return attribute::DecimalIn<Assignment, Value>(name);
+    return DecimalIn<Assignment, Value>(name);
 }
 
 /// The bytes of an assignment in the order in which they are checked.
@@ -61,46 +61,52 @@ void ReportMissingEntry(std::size_t entry)
     Report("ParsePaletteAttributes: No entry! (", std::to_string(entry), ")\n");
 }
 
-} // namespace
-
-/// One entry of the palette: "0x" and six hexadecimal digits, the red byte lowest.
-template <std::size_t Index>
-struct CPaletteNode::Entry
+/// One entry of a palette: "0x" and six hexadecimal digits, the red byte lowest.
+template <auto Palette, std::size_t Index>
+constexpr AttributeRow<CPaletteNode> Entry(const char* name)
 {
-    static void Write(const CPaletteNode& node, string& text)
-    {
-        const RGBEntry& entry = node.m_palette[Index];
-        text += FormatString("0x%06X", entry.red | entry.green << 8 | entry.blue << 16);
-    }
-
-    static void Read(CPaletteNode& node, string_view text)
-    {
-        const long value = ReadHex(string(text)); // -1, so all bits, without "0x"
-        const auto byte = [value](int shift) { return static_cast<unsigned char>(value >> shift); };
-        node.m_palette[Index] = { byte(0), byte(8), byte(16) };
-    }
-
-    static constexpr AttributeRow<CPaletteNode> Row(const char* name)
-    {
-        return AttributeRow<CPaletteNode>{ name, Write, Read }.Required(ReportMissingEntry);
-    }
-};
-
-// The attributes of "Palette".
-AttributeTable<CPaletteNode> CPaletteNode::Attributes()
-{
-    static constexpr auto rows = Rows<CPaletteNode>(
-        Entry<0>::Row("entry00"), Entry<1>::Row("entry01"), Entry<2>::Row("entry02"),
-        Entry<3>::Row("entry03"), Entry<4>::Row("entry04"), Entry<5>::Row("entry05"),
-        Entry<6>::Row("entry06"), Entry<7>::Row("entry07"), Entry<8>::Row("entry08"),
-        Entry<9>::Row("entry09"), Entry<10>::Row("entry10"), Entry<11>::Row("entry11"),
-        Entry<12>::Row("entry12"), Entry<13>::Row("entry13"), Entry<14>::Row("entry14"),
-        Entry<15>::Row("entry15"));
-    return rows;
+    const AttributeRow<CPaletteNode> row{
+        name,
+        [](const CPaletteNode& node, string& text) {
+            const RGBEntry& entry = (node.*Palette)[Index];
+            text += FormatString("0x%06X", entry.red | entry.green << 8 | entry.blue << 16);
+        },
+        [](CPaletteNode& node, string_view text) {
+            const long value = ReadHex(string(text)); // -1, so all bits, without "0x"
+            const auto byte = [value](int shift) {
+                return static_cast<unsigned char>(value >> shift);
+            };
+            (node.*Palette)[Index] = { byte(0), byte(8), byte(16) };
+        },
+    };
+    return row.Required(ReportMissingEntry);
 }
 
-CPaletteNode::CPaletteNode()
-    : CProjectNode(eNodePalette, kFormOf<CPaletteNode, &CPaletteNode::Attributes>)
+} // namespace
+
+// The attributes of "Palette".
+struct VANTREL_INTERNAL CPaletteNode::Form
+{
+    static constexpr auto rows = Rows<CPaletteNode>(Entry<&CPaletteNode::m_palette, 0>("entry00"),
+                                                    Entry<&CPaletteNode::m_palette, 1>("entry01"),
+                                                    Entry<&CPaletteNode::m_palette, 2>("entry02"),
+                                                    Entry<&CPaletteNode::m_palette, 3>("entry03"),
+                                                    Entry<&CPaletteNode::m_palette, 4>("entry04"),
+                                                    Entry<&CPaletteNode::m_palette, 5>("entry05"),
+                                                    Entry<&CPaletteNode::m_palette, 6>("entry06"),
+                                                    Entry<&CPaletteNode::m_palette, 7>("entry07"),
+                                                    Entry<&CPaletteNode::m_palette, 8>("entry08"),
+                                                    Entry<&CPaletteNode::m_palette, 9>("entry09"),
+                                                    Entry<&CPaletteNode::m_palette, 10>("entry10"),
+                                                    Entry<&CPaletteNode::m_palette, 11>("entry11"),
+                                                    Entry<&CPaletteNode::m_palette, 12>("entry12"),
+                                                    Entry<&CPaletteNode::m_palette, 13>("entry13"),
+                                                    Entry<&CPaletteNode::m_palette, 14>("entry14"),
+                                                    Entry<&CPaletteNode::m_palette, 15>("entry15"));
+    static constexpr bool addsToMap = true;
+};
+
+CPaletteNode::CPaletteNode() : FormedNode(eNodePalette, kFormOf<CPaletteNode, Form>)
 {}
 
 CPaletteNode::~CPaletteNode() = default;
@@ -121,20 +127,8 @@ Status CPaletteNode::SetPalette(const RGBEntry* in)
     return status::kOk;
 }
 
-Status CPaletteNode::FillAttributeMap(map<string, string>& attributes, bool native)
-{
-    Attributes().Write(*this, native, attributes);
-    return status::kOk;
-}
-
-Status CPaletteNode::ParseAttributeMap(const map<string, string>& attributes)
-{
-    Attributes().Read(*this, attributes);
-    return status::kOk;
-}
-
 // The attributes of "ButtonScheme1" to "ButtonScheme3".
-AttributeTable<CButtonSchemeNode> CButtonSchemeNode::Attributes()
+struct VANTREL_INTERNAL CButtonSchemeNode::Form
 {
     using Scheme = CButtonSchemeNode;
     static constexpr auto rows =
@@ -154,11 +148,11 @@ AttributeTable<CButtonSchemeNode> CButtonSchemeNode::Attributes()
                      Byte<&Scheme::m_activated, &SPUColourInfo::emp1Cnt>("emp1ActCnt"),
                      Byte<&Scheme::m_activated, &SPUColourInfo::emp2Col>("emp2ActCol"),
                      Byte<&Scheme::m_activated, &SPUColourInfo::emp2Cnt>("emp2ActCnt"));
-    return rows;
-}
+    static constexpr bool addsToMap = true;
+};
 
 CButtonSchemeNode::CButtonSchemeNode(string name)
-    : CProjectNode(eNodeButtonScheme, kFormOf<CButtonSchemeNode, &CButtonSchemeNode::Attributes>),
+    : FormedNode(eNodeButtonScheme, kFormOf<CButtonSchemeNode, Form>),
       m_name(std::move(name))
 {}
 
@@ -193,20 +187,8 @@ string CButtonSchemeNode::GetObjectTagName()
     return m_name;
 }
 
-Status CButtonSchemeNode::FillAttributeMap(map<string, string>& attributes, bool native)
-{
-    Attributes().Write(*this, native, attributes);
-    return status::kOk;
-}
-
-Status CButtonSchemeNode::ParseAttributeMap(const map<string, string>& attributes)
-{
-    Attributes().Read(*this, attributes);
-    return status::kOk;
-}
-
 // The attributes of "SPUColours".
-AttributeTable<CSPUColourNode> CSPUColourNode::Attributes()
+struct VANTREL_INTERNAL CSPUColourNode::Form
 {
     static constexpr auto rows = Rows<CSPUColourNode>(
         Byte<&CSPUColourNode::m_colourInfo, &SPUColourInfo::pattCol>("pattCol"),
@@ -217,11 +199,10 @@ AttributeTable<CSPUColourNode> CSPUColourNode::Attributes()
         Byte<&CSPUColourNode::m_colourInfo, &SPUColourInfo::emp1Cnt>("emp1Cnt"),
         Byte<&CSPUColourNode::m_colourInfo, &SPUColourInfo::emp2Col>("emp2Col"),
         Byte<&CSPUColourNode::m_colourInfo, &SPUColourInfo::emp2Cnt>("emp2Cnt"));
-    return rows;
-}
+    static constexpr bool addsToMap = true;
+};
 
-CSPUColourNode::CSPUColourNode()
-    : CProjectNode(eNodeSPUColours, kFormOf<CSPUColourNode, &CSPUColourNode::Attributes>)
+CSPUColourNode::CSPUColourNode() : FormedNode(eNodeSPUColours, kFormOf<CSPUColourNode, Form>)
 {}
 
 CSPUColourNode::~CSPUColourNode() = default;
@@ -237,32 +218,18 @@ Status CSPUColourNode::SetColourInfo(const SPUColourInfo& in)
     return Failed(checked) ? checked : Take(m_colourInfo, in);
 }
 
-Status CSPUColourNode::FillAttributeMap(map<string, string>& attributes, bool native)
-{
-    Attributes().Write(*this, native, attributes);
-    return status::kOk;
-}
-
-Status CSPUColourNode::ParseAttributeMap(const map<string, string>& attributes)
-{
-    Attributes().Read(*this, attributes);
-    return status::kOk;
-}
-
 // The attributes of "LayoutRect".
-AttributeTable<CLayoutRectNode> CLayoutRectNode::Attributes()
+struct VANTREL_INTERNAL CLayoutRectNode::Form
 {
-    using namespace vantrel::attribute;
     static constexpr auto rows =
         Rows<CLayoutRectNode>(RealIn<&CLayoutRectNode::m_rect, &FloatRect::left>("left"),
                               RealIn<&CLayoutRectNode::m_rect, &FloatRect::top>("top"),
                               RealIn<&CLayoutRectNode::m_rect, &FloatRect::right>("right"),
                               RealIn<&CLayoutRectNode::m_rect, &FloatRect::bottom>("bottom"));
-    return rows;
-}
+    static constexpr bool addsToMap = true;
+};
 
-CLayoutRectNode::CLayoutRectNode()
-    : CProjectNode(eNodeLayoutRect, kFormOf<CLayoutRectNode, &CLayoutRectNode::Attributes>)
+CLayoutRectNode::CLayoutRectNode() : FormedNode(eNodeLayoutRect, kFormOf<CLayoutRectNode, Form>)
 {}
 
 CLayoutRectNode::~CLayoutRectNode() = default;
@@ -275,16 +242,4 @@ Status CLayoutRectNode::GetLayoutRect(FloatRect* out) const
 Status CLayoutRectNode::SetLayoutRect(const FloatRect* in)
 {
     return in ? Take(m_rect, *in) : status::kNullPointer;
-}
-
-Status CLayoutRectNode::FillAttributeMap(map<string, string>& attributes, bool native)
-{
-    Attributes().Write(*this, native, attributes);
-    return status::kOk;
-}
-
-Status CLayoutRectNode::ParseAttributeMap(const map<string, string>& attributes)
-{
-    Attributes().Read(*this, attributes);
-    return status::kOk;
 }

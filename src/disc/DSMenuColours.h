@@ -1,15 +1,10 @@
 #pragma once
 
 #include "core/Types.h"
-#include "project/ProjectNode.h"
+#include "project/FormedNode.h"
 
 #include <array>
 #include <string>
-
-namespace vantrel {
-template <class Node>
-class AttributeTable;
-}
 
 /// @file
 /// The nodes under a menu that hold what the disc's subpicture unit needs: the palette, the button
@@ -37,8 +32,9 @@ struct SPUColourInfo
     unsigned char emp2Cnt = 0;
 };
 
-/// The 16 colours of a menu.
-class VANTREL_API CPaletteNode : public CProjectNode
+/// "Palette": the 16 colours of a menu. Reading stops, with a message, at the first entry that is absent
+/// or empty.
+class VANTREL_API CPaletteNode : public vantrel::FormedNode
 {
 public:
     CPaletteNode();
@@ -48,23 +44,16 @@ public:
     vantrel::Status GetPalette(RGBEntry* out) const;
     vantrel::Status SetPalette(const RGBEntry* in);
 
-    vantrel::Status FillAttributeMap(std::map<std::string, std::string>& attributes,
-                                     bool native) override;
-    /// Stops, with a message on standard output, at the first entry that is absent or empty.
-    vantrel::Status ParseAttributeMap(
-        const std::map<std::string, std::string>& attributes) override;
-
 private:
-    static vantrel::AttributeTable<CPaletteNode> Attributes();
-    template <std::size_t Index>
-    struct Entry;
+    struct Form;
 
     std::array<RGBEntry, 16> m_palette;
 };
 
-/// What a button shows when it is selected and when it is activated. A menu has three schemes, told
-/// apart by their element names.
-class VANTREL_API CButtonSchemeNode : public CProjectNode
+/// "ButtonScheme1" to "ButtonScheme3": what a button shows when it is selected and when it is
+/// activated. A menu has these three, told apart by their element names, and a button says which it
+/// uses.
+class VANTREL_API CButtonSchemeNode : public vantrel::FormedNode
 {
 public:
     explicit CButtonSchemeNode(std::string name);
@@ -80,21 +69,17 @@ public:
     vantrel::Status SetColourInfo(const SPUColourInfo& selected, const SPUColourInfo& activated);
 
     std::string GetObjectTagName() override;
-    vantrel::Status FillAttributeMap(std::map<std::string, std::string>& attributes,
-                                     bool native) override;
-    vantrel::Status ParseAttributeMap(
-        const std::map<std::string, std::string>& attributes) override;
 
 private:
-    static vantrel::AttributeTable<CButtonSchemeNode> Attributes();
+    struct Form;
 
     SPUColourInfo m_selected;
     SPUColourInfo m_activated;
     std::string m_name; ///< the element's name
 };
 
-/// The subpicture colours of a menu's overlay layer.
-class VANTREL_API CSPUColourNode : public CProjectNode
+/// "SPUColours": the subpicture colours of a menu's overlay layer.
+class VANTREL_API CSPUColourNode : public vantrel::FormedNode
 {
 public:
     CSPUColourNode();
@@ -105,19 +90,14 @@ public:
     /// Checks as a scheme does.
     vantrel::Status SetColourInfo(const SPUColourInfo& in);
 
-    vantrel::Status FillAttributeMap(std::map<std::string, std::string>& attributes,
-                                     bool native) override;
-    vantrel::Status ParseAttributeMap(
-        const std::map<std::string, std::string>& attributes) override;
-
 private:
-    static vantrel::AttributeTable<CSPUColourNode> Attributes();
+    struct Form;
 
     SPUColourInfo m_colourInfo;
 };
 
-/// The rectangle into which a menu's buttons are laid out. Its sides are neither ordered nor checked.
-class VANTREL_API CLayoutRectNode : public CProjectNode
+/// "LayoutRect": the rectangle into which a menu's buttons are laid out. Its sides are neither ordered nor checked.
+class VANTREL_API CLayoutRectNode : public vantrel::FormedNode
 {
 public:
     CLayoutRectNode();
@@ -127,13 +107,8 @@ public:
     vantrel::Status GetLayoutRect(FloatRect* out) const;
     vantrel::Status SetLayoutRect(const FloatRect* in);
 
-    vantrel::Status FillAttributeMap(std::map<std::string, std::string>& attributes,
-                                     bool native) override;
-    vantrel::Status ParseAttributeMap(
-        const std::map<std::string, std::string>& attributes) override;
-
 private:
-    static vantrel::AttributeTable<CLayoutRectNode> Attributes();
+    struct Form;
 
     FloatRect m_rect;
 };

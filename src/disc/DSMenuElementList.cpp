@@ -1,20 +1,17 @@
 #include "disc/DSMenuElementList.h"
 
-using std::map;
-using std::string;
+#include "project/NodeForm.h"
+
 using namespace vantrel;
 
-CDSMenuElementList::CDSMenuElementList() : CProjectNode(eNodeElements)
+struct VANTREL_INTERNAL CDSMenuElementList::Form
+{
+    static constexpr auto rows = Rows<CDSMenuElementList>();
+    static constexpr bool addsToMap = true;
+};
+
+CDSMenuElementList::CDSMenuElementList()
+    : FormedNode(eNodeElements, kFormOf<CDSMenuElementList, Form>)
 {}
 
 CDSMenuElementList::~CDSMenuElementList() = default;
-
-Status CDSMenuElementList::FillAttributeMap(map<string, string>&, bool)
-{
-    return status::kOk;
-}
-
-Status CDSMenuElementList::ParseAttributeMap(const map<string, string>&)
-{
-    return status::kOk;
-}

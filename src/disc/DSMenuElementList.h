@@ -1,18 +1,15 @@
 #pragma once
 
-#include "project/ProjectNode.h"
+#include "project/FormedNode.h"
 
-/// The visible elements of a menu or a button: its children, in the order of the file. How they lie
-/// over each other is said by their z-order alone.
-class VANTREL_API CDSMenuElementList : public CProjectNode
+/// "Elements": the visible elements of a menu or a button, its children in the order of the file. How
+/// they lie over each other is said by their z-order alone. The element has no attributes.
+class VANTREL_API CDSMenuElementList : public vantrel::FormedNode
 {
 public:
     CDSMenuElementList();
     ~CDSMenuElementList() override;
 
-    /// The element has no attributes.
-    vantrel::Status FillAttributeMap(std::map<std::string, std::string>& attributes,
-                                     bool native) override;
-    vantrel::Status ParseAttributeMap(
-        const std::map<std::string, std::string>& attributes) override;
+private:
+    struct Form;
 };

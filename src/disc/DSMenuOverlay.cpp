@@ -1,13 +1,14 @@
 #include "disc/DSMenuOverlay.h"
 
 #include "core/PathUtils.h"
+#include "core/Property.h"
 #include "menu/OverlayRows.h"
 #include "project/NodeForm.h"
 
-using std::map;
 using std::string;
 using std::string_view;
 using namespace vantrel;
+using namespace vantrel::attribute;
 
 namespace {
 
@@ -15,7 +16,7 @@ namespace {
 template <auto Field>
 constexpr AttributeRow<CDSMenuOverlay> NumberBool(const char* name)
 {
-    AttributeRow<CDSMenuOverlay> row = attribute::Bool<Field>(name);
+    AttributeRow<CDSMenuOverlay> row = Bool<Field>(name);
     row.read = [](CDSMenuOverlay& node, string_view text) { node.*Field = ParseLong(text) != 0; };
     return row;
 }
@@ -24,7 +25,7 @@ constexpr AttributeRow<CDSMenuOverlay> NumberBool(const char* name)
 template <auto Field>
 constexpr AttributeRow<CDSMenuOverlay> BoolOr(const char* name)
 {
-    AttributeRow<CDSMenuOverlay> row = attribute::Bool<Field>(name);
+    AttributeRow<CDSMenuOverlay> row = Bool<Field>(name);
     row.read = [](CDSMenuOverlay& node, string_view text) {
         node.*Field = node.*Field || text != "0";
     };
@@ -44,9 +45,8 @@ Status GivePair(double* outX, double* outY, double x, double y)
 } // namespace
 
 // The attributes of "Overlay".
-AttributeTable<CDSMenuOverlay> CDSMenuOverlay::Attributes()
+struct VANTREL_INTERNAL CDSMenuOverlay::Form
 {
-    using namespace vantrel::attribute;
     using Overlay = CDSMenuOverlay;
     static constexpr auto rows = Rows<Overlay>(
         NodeID<Overlay>("ID"), Enum<&Overlay::m_highlight>("highlight"),
@@ -61,11 +61,11 @@ AttributeTable<CDSMenuOverlay> CDSMenuOverlay::Attributes()
         Real<&Overlay::m_cropY>("corpRectY"), Real<&Overlay::m_cropWidth>("corpRectW"),
         Real<&Overlay::m_cropHeight>("corpRectH"),
         Bool<&Overlay::m_cropRotateMode>("cropRotateMode"), OverlayRows<Overlay>::All());
-    return { rows, [](Overlay& overlay) { overlay.ResolvePaths(); } };
-}
 
-CDSMenuOverlay::CDSMenuOverlay()
-    : ElementNode(eNodeOverlay, kFormOf<CDSMenuOverlay, &CDSMenuOverlay::Attributes>)
+    static void Finish(Overlay& overlay) { overlay.ResolvePaths(); }
+};
+
+CDSMenuOverlay::CDSMenuOverlay() : ElementNode(eNodeOverlay, kFormOf<CDSMenuOverlay, Form>)
 {}
 
 CDSMenuOverlay::~CDSMenuOverlay() = default;
@@ -280,17 +280,4 @@ Status CDSMenuOverlay::get_cropRotateMode(bool* out)
 Status CDSMenuOverlay::RefreshSource()
 {
     return refreshSource();
-}
-
-Status CDSMenuOverlay::FillAttributeMap(map<string, string>& attributes, bool native)
-{
-    attributes.clear();
-    Attributes().Write(*this, native, attributes);
-    return status::kOk;
-}
-
-Status CDSMenuOverlay::ParseAttributeMap(const map<string, string>& attributes)
-{
-    Attributes().Read(*this, attributes);
-    return status::kOk;
 }

@@ -6,7 +6,9 @@
 
 #include <string>
 
-/// A picture on a menu or in a button: a button's frame, thumbnail, highlight or matte, or any other.
+extern template class VANTREL_API vantrel::ElementNode<CMenuOverlayImpl>;
+
+/// "Overlay": a picture on a menu or in a button: a button's frame, thumbnail, highlight or matte, or any other.
 ///
 /// Every output that is null gives `status::kNullPointer`; what stores a value gives 0 unless it says
 /// more. Sizes are model units unless they say otherwise.
@@ -84,13 +86,8 @@ public:
 
     virtual vantrel::Status RefreshSource();
 
-    vantrel::Status FillAttributeMap(std::map<std::string, std::string>& attributes,
-                                     bool native) override;
-    vantrel::Status ParseAttributeMap(
-        const std::map<std::string, std::string>& attributes) override;
-
 private:
-    static vantrel::AttributeTable<CDSMenuOverlay> Attributes();
+    struct Form;
     std::string ContentFolder() const;
 
     OverlayHighlight m_highlight = OverlayHighlight::None;

@@ -1,27 +1,33 @@
 #include "disc/DSMenuText.h"
 
+#include "core/Property.h"
 #include "menu/TextRows.h"
 #include "project/NodeForm.h"
 #include "xml/XmlValue.h"
 
-using std::map;
 using std::string;
 using namespace vantrel;
+using namespace vantrel::attribute;
 
 // The attributes of "Text".
-AttributeTable<CDSMenuText> CDSMenuText::Attributes()
+struct VANTREL_INTERNAL CDSMenuText::Form
 {
-    using namespace vantrel::attribute;
     static constexpr auto rows =
         Rows<CDSMenuText>(NodeID<CDSMenuText>("ID"), Enum<&CDSMenuText::m_highlight>("highlight"),
                           TextRows<CDSMenuText>::All());
-    return rows;
-}
+};
 
-CDSMenuText::CDSMenuText() : ElementNode(eNodeText, kFormOf<CDSMenuText, &CDSMenuText::Attributes>)
+CDSMenuText::CDSMenuText() : ElementNode(eNodeText, kFormOf<CDSMenuText, Form>)
 {}
 
 CDSMenuText::~CDSMenuText() = default;
+
+// clang-format off
+Status CDSMenuText::get_Highlight(TextHighlight* out) { return Give(out, m_highlight); }
+Status CDSMenuText::put_Highlight(TextHighlight value) { return Take(m_highlight, value); }
+Status CDSMenuText::get_Handle(TextHandles* out) { return getHandle(out); }
+Status CDSMenuText::put_Handle(TextHandles value) { return setHandle(value); }
+// clang-format on
 
 Status CDSMenuText::GetEffectXML(IXMLDOMNode* node)
 {
@@ -85,7 +91,7 @@ int CDSMenuText::NodeInserted()
 
 Status CDSMenuText::ReadXML(IXMLDOMNode* node)
 {
-    (void)CProjectNode::ReadXML(node); // the effect counts without attributes too
+    (void)FormedNode::ReadXML(node); // the effect counts without attributes too
     if (!node)
         return status::kNullPointer;
     if (_xmlNode* effect = FindChildElement(node, "effect"))
@@ -95,21 +101,8 @@ Status CDSMenuText::ReadXML(IXMLDOMNode* node)
 
 Status CDSMenuText::WriteXML(IXMLDOMNode* node, long native)
 {
-    (void)CProjectNode::WriteXML(node, native); // the words are written all the same
+    (void)FormedNode::WriteXML(node, native); // the words are written all the same
     if (node)
         (void)WriteEffectXML(node); // there may be none
-    return status::kOk;
-}
-
-Status CDSMenuText::FillAttributeMap(map<string, string>& attributes, bool native)
-{
-    attributes.clear();
-    Attributes().Write(*this, native, attributes);
-    return status::kOk;
-}
-
-Status CDSMenuText::ParseAttributeMap(const map<string, string>& attributes)
-{
-    Attributes().Read(*this, attributes);
     return status::kOk;
 }

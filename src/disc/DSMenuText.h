@@ -5,7 +5,9 @@
 
 #include <string>
 
-/// A piece of text on a menu or in a button.
+extern template class VANTREL_API vantrel::ElementNode<CMenuTextImpl>;
+
+/// "Text": a piece of text on a menu or in a button.
 ///
 /// What it says and how it looks stands in the "effect" element of its own, which the element part
 /// keeps; the file is walked no further there. Words, font name and height may be references into the
@@ -17,19 +19,13 @@ public:
     ~CDSMenuText() override;
 
     /// How the text is highlighted with its button.
-    virtual vantrel::Status get_Highlight(TextHighlight* out)
-    {
-        return vantrel::Give(out, m_highlight);
-    }
-    virtual vantrel::Status put_Highlight(TextHighlight value)
-    {
-        return vantrel::Take(m_highlight, value);
-    }
+    virtual vantrel::Status get_Highlight(TextHighlight* out);
+    virtual vantrel::Status put_Highlight(TextHighlight value);
 
     /// The point of the rectangle that stands at the position. Outside of 1 to 9:
     /// `status::kBadArgument`.
-    virtual vantrel::Status get_Handle(TextHandles* out) { return getHandle(out); }
-    virtual vantrel::Status put_Handle(TextHandles value) { return setHandle(value); }
+    virtual vantrel::Status get_Handle(TextHandles* out);
+    virtual vantrel::Status put_Handle(TextHandles value);
 
     /// Hangs a copy of the effect under `node`, 1 when there is none; and takes a copy of `node` as
     /// the effect. Null gives `status::kNullPointer`.
@@ -59,13 +55,9 @@ public:
     vantrel::Status ReadXML(IXMLDOMNode* node) override;
     /// Writes the attributes and the "effect". Gives 0.
     vantrel::Status WriteXML(IXMLDOMNode* node, long native) override;
-    vantrel::Status FillAttributeMap(std::map<std::string, std::string>& attributes,
-                                     bool native) override;
-    vantrel::Status ParseAttributeMap(
-        const std::map<std::string, std::string>& attributes) override;
 
 private:
-    static vantrel::AttributeTable<CDSMenuText> Attributes();
+    struct Form;
     vantrel::Status Resolve(vantrel::Status (CMenuTextImpl::*get)(std::string*), std::string* out);
 
     TextHighlight m_highlight = TextHighlight::None;

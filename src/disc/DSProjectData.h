@@ -1,8 +1,7 @@
 #pragma once
 
-#include "core/Property.h"
 #include "project/DiscEnums.h"
-#include "project/ProjectNode.h"
+#include "project/FormedNode.h"
 
 #include <functional>
 #include <memory>
@@ -15,19 +14,17 @@ class CDSMenu;
 class CDSTitle;
 
 namespace vantrel {
-template <class Node>
-class AttributeTable;
 class MenuTemplates;
 } // namespace vantrel
 
-/// The root of a disc project: the settings of the whole disc, and five fixed children at positions
-/// that are part of the model: 0 "Titles", 1 "Menus", 2 "DataFiles", 3 "Commands", 4 "Encoding".
+/// "Project": the root of a disc project with the settings of the whole disc. Its fixed children stand
+/// at the positions of `ProjectChild`.
 ///
 /// It is the one node that a caller makes by itself. `CDSFileService` loads and saves it.
 ///
 /// Every `get_X` copies the value to `out` and gives `status::kNullPointer` for null; every `put_X`
 /// stores the value unchecked and gives 0.
-class VANTREL_API CDSProjectData : public CProjectNode
+class VANTREL_API CDSProjectData : public vantrel::FormedNode
 {
 public:
     CDSProjectData();
@@ -35,94 +32,56 @@ public:
 
     /// Gives every setting its default again; the constructor has done so already.
     void InitProjectProps();
-    /// Makes the fixed children. The constructor has done so already.
+    /// Makes the fixed children that aren't there, which is all in the constructor. Gives
+    /// `status::kNoMemory` when that fails.
     vantrel::Status FinalConstruct();
     /// Nothing is to be let go.
     vantrel::Status FinalRelease();
 
     /// @name Settings in the file
     /// @{
-    vantrel::Status get_Label(std::string* out) const { return vantrel::Give(out, m_label); }
-    vantrel::Status put_Label(std::string value)
-    {
-        return vantrel::Take(m_label, std::move(value));
-    }
+    vantrel::Status get_Label(std::string* out) const;
+    vantrel::Status put_Label(std::string value);
 
     /// The project file's name without folder and extension; every save sets it.
-    vantrel::Status get_DisplayName(std::string* out) const
-    {
-        return vantrel::Give(out, m_displayName);
-    }
-    vantrel::Status put_DisplayName(std::string value)
-    {
-        return vantrel::Take(m_displayName, std::move(value));
-    }
+    vantrel::Status get_DisplayName(std::string* out) const;
+    vantrel::Status put_DisplayName(std::string value);
 
-    vantrel::Status get_DiscFormat(DiscFormat* out) const
-    {
-        return vantrel::Give(out, m_discFormat);
-    }
-    vantrel::Status put_DiscFormat(DiscFormat value) { return vantrel::Take(m_discFormat, value); }
+    vantrel::Status get_DiscFormat(DiscFormat* out) const;
+    vantrel::Status put_DiscFormat(DiscFormat value);
 
-    vantrel::Status get_TVStandard(TVStandard* out) const
-    {
-        return vantrel::Give(out, m_tvStandard);
-    }
-    vantrel::Status put_TVStandard(TVStandard value) { return vantrel::Take(m_tvStandard, value); }
+    vantrel::Status get_TVStandard(TVStandard* out) const;
+    vantrel::Status put_TVStandard(TVStandard value);
 
-    vantrel::Status get_IsOnDisc(bool* out) const { return vantrel::Give(out, m_isOnDisc); }
-    vantrel::Status put_IsOnDisc(bool value) { return vantrel::Take(m_isOnDisc, value); }
+    vantrel::Status get_IsOnDisc(bool* out) const;
+    vantrel::Status put_IsOnDisc(bool value);
 
-    vantrel::Status get_FitToDisc(bool* out) const { return vantrel::Give(out, m_fitToDisc); }
-    vantrel::Status put_FitToDisc(bool value) { return vantrel::Take(m_fitToDisc, value); }
+    vantrel::Status get_FitToDisc(bool* out) const;
+    vantrel::Status put_FitToDisc(bool value);
 
     /// Only answered for a project on disc; for any other it gives 1 and leaves `out` alone.
     vantrel::Status get_DoCompression(bool* out) const;
-    vantrel::Status put_DoCompression(bool value) { return vantrel::Take(m_doCompression, value); }
+    vantrel::Status put_DoCompression(bool value);
 
     /// Bits named by `FormatProjectOptions`.
-    vantrel::Status get_Options(unsigned long* out) const { return vantrel::Give(out, m_options); }
-    vantrel::Status put_Options(unsigned long value) { return vantrel::Take(m_options, value); }
+    vantrel::Status get_Options(unsigned long* out) const;
+    vantrel::Status put_Options(unsigned long value);
 
     /// In KB.
-    vantrel::Status get_OnDiscSize(unsigned long* out) const
-    {
-        return vantrel::Give(out, m_onDiscSize);
-    }
-    vantrel::Status put_OnDiscSize(unsigned long value)
-    {
-        return vantrel::Take(m_onDiscSize, value);
-    }
+    vantrel::Status get_OnDiscSize(unsigned long* out) const;
+    vantrel::Status put_OnDiscSize(unsigned long value);
 
-    vantrel::Status get_RemainingCaptures(long* out) const
-    {
-        return vantrel::Give(out, m_remainingCaptures);
-    }
-    vantrel::Status put_RemainingCaptures(long value)
-    {
-        return vantrel::Take(m_remainingCaptures, value);
-    }
+    vantrel::Status get_RemainingCaptures(long* out) const;
+    vantrel::Status put_RemainingCaptures(long value);
 
-    vantrel::Status get_ThemeSource(std::string* out) const
-    {
-        return vantrel::Give(out, m_themeSource);
-    }
-    vantrel::Status put_ThemeSource(std::string value)
-    {
-        return vantrel::Take(m_themeSource, std::move(value));
-    }
+    vantrel::Status get_ThemeSource(std::string* out) const;
+    vantrel::Status put_ThemeSource(std::string value);
 
-    vantrel::Status get_DiscSize(DiscSizeEnum* out) const { return vantrel::Give(out, m_discSize); }
-    vantrel::Status put_DiscSize(DiscSizeEnum value) { return vantrel::Take(m_discSize, value); }
+    vantrel::Status get_DiscSize(DiscSizeEnum* out) const;
+    vantrel::Status put_DiscSize(DiscSizeEnum value);
 
-    vantrel::Status get_DiscVideoType(DiscVideoType* out) const
-    {
-        return vantrel::Give(out, m_discVideoType);
-    }
-    vantrel::Status put_DiscVideoType(DiscVideoType value)
-    {
-        return vantrel::Take(m_discVideoType, value);
-    }
+    vantrel::Status get_DiscVideoType(DiscVideoType* out) const;
+    vantrel::Status put_DiscVideoType(DiscVideoType value);
 
     /// The version that is stamped on a saved file: always 900.
     vantrel::Status get_Version(unsigned long* out) const;
@@ -130,55 +89,25 @@ public:
 
     /// @name Settings of the session, which no file holds
     /// @{
-    vantrel::Status get_VolumeName(std::string* out) const
-    {
-        return vantrel::Give(out, m_volumeName);
-    }
-    vantrel::Status put_VolumeName(std::string value)
-    {
-        return vantrel::Take(m_volumeName, std::move(value));
-    }
+    vantrel::Status get_VolumeName(std::string* out) const;
+    vantrel::Status put_VolumeName(std::string value);
 
     /// The folder of the project file; every save sets it.
-    vantrel::Status get_ProjectDirectory(std::string* out) const
-    {
-        return vantrel::Give(out, m_projectDirectory);
-    }
-    vantrel::Status put_ProjectDirectory(std::string value)
-    {
-        return vantrel::Take(m_projectDirectory, std::move(value));
-    }
+    vantrel::Status get_ProjectDirectory(std::string* out) const;
+    vantrel::Status put_ProjectDirectory(std::string value);
 
     /// Bits named by `FormatTargetType`.
-    vantrel::Status get_TargetType(unsigned long* out) const
-    {
-        return vantrel::Give(out, m_targetType);
-    }
-    vantrel::Status put_TargetType(unsigned long value)
-    {
-        return vantrel::Take(m_targetType, value);
-    }
+    vantrel::Status get_TargetType(unsigned long* out) const;
+    vantrel::Status put_TargetType(unsigned long value);
 
-    vantrel::Status get_ImagePath(std::string* out) const
-    {
-        return vantrel::Give(out, m_imagePath);
-    }
-    vantrel::Status put_ImagePath(std::string value)
-    {
-        return vantrel::Take(m_imagePath, std::move(value));
-    }
+    vantrel::Status get_ImagePath(std::string* out) const;
+    vantrel::Status put_ImagePath(std::string value);
 
-    vantrel::Status get_TargetDrive(std::string* out) const
-    {
-        return vantrel::Give(out, m_targetDrive);
-    }
-    vantrel::Status put_TargetDrive(std::string value)
-    {
-        return vantrel::Take(m_targetDrive, std::move(value));
-    }
+    vantrel::Status get_TargetDrive(std::string* out) const;
+    vantrel::Status put_TargetDrive(std::string value);
 
-    vantrel::Status get_ProjectSize(long* out) const { return vantrel::Give(out, m_projectSize); }
-    vantrel::Status put_ProjectSize(long value) { return vantrel::Take(m_projectSize, value); }
+    vantrel::Status get_ProjectSize(long* out) const;
+    vantrel::Status put_ProjectSize(long value);
     /// @}
 
     /// @name Counts
@@ -250,17 +179,12 @@ public:
     /// Writes "Project" with the whole tree as the last child of `parent`. Null gives
     /// `status::kNullPointer`.
     vantrel::Status SaveXML(IXMLDOMNode* parent);
-
-    vantrel::Status FillAttributeMap(std::map<std::string, std::string>& attributes,
-                                     bool native) override;
-    vantrel::Status ParseAttributeMap(
-        const std::map<std::string, std::string>& attributes) override;
     /// @}
 
 private:
     friend CDSMenu; // shares the templates
 
-    static vantrel::AttributeTable<CDSProjectData> Attributes();
+    struct Form;
     vantrel::Status CountOf(int position, long* out);
     CProjectNode* MenuToRemove(long id);
     void Remove(CProjectNode& list, const std::function<bool(CProjectNode&)>& which);

@@ -32,11 +32,4 @@ std::unique_ptr<CProjectNode> MakeNode(eNodeType type)
     }
 }
 
-void MakeFixedChild(CProjectNode& parent, eNodeType type)
-{
-    auto* title = dynamic_cast<CDSTitle*>(&parent);
-    if (title && (type == eNodeCommands || type == eNodeEncoding))
-        title->MakeMissingChildren(false);
-}
-
 } // namespace vantrel

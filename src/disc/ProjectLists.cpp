@@ -1,8 +1,9 @@
+#include "core/Property.h"
+#include "disc/ChildPositions.h"
 #include "disc/DSDataFile.h"
 #include "disc/DSMenu.h"
 #include "disc/DSProjectData.h"
 #include "disc/DSTitle.h"
-#include "disc/ProjectChildren.h"
 
 #include <iterator>
 #include <map>
@@ -44,7 +45,7 @@ Status CDSProjectData::GetTitle(long index, CDSTitle** out)
 {
     if (!out)
         return status::kNullPointer;
-    CProjectNode* titles = GetChild(kTitles);
+    CProjectNode* titles = GetChild(ProjectChild::Titles);
     if (!titles)
         return status::kNothingDone;
     *out = nullptr;
@@ -54,42 +55,43 @@ Status CDSProjectData::GetTitle(long index, CDSTitle** out)
 
 Status CDSProjectData::AddTitle(long index, CDSTitle* title)
 {
-    return AddTo(kTitles, index, title);
+    return AddTo(ProjectChild::Titles, index, title);
 }
 
 Status CDSProjectData::RemoveTitle(long id, CDSTitle* title)
 {
-    return RemoveFrom(kTitles, id, title);
+    return RemoveFrom(ProjectChild::Titles, id, title);
 }
 
 Status CDSProjectData::MoveTitle(long from, long to)
 {
-    return MoveIn(kTitles, from, to);
+    return MoveIn(ProjectChild::Titles, from, to);
 }
 
 Status CDSProjectData::GetMenu(long index, CDSMenu** out)
 {
-    return out ? GetObject(GetChild(kMenus), PositionOf(index), out) : status::kNullPointer;
+    return out ? GetObject(GetChild(ProjectChild::Menus), PositionOf(index), out)
+               : status::kNullPointer;
 }
 
 Status CDSProjectData::AddMenu(long index, CDSMenu* menu)
 {
-    return AddTo(kMenus, index, menu);
+    return AddTo(ProjectChild::Menus, index, menu);
 }
 
 Status CDSProjectData::InsertMenu(long index, CDSMenu* menu)
 {
-    return AddTo(kMenus, index, menu);
+    return AddTo(ProjectChild::Menus, index, menu);
 }
 
 Status CDSProjectData::RemoveMenu(long id, CDSMenu* menu)
 {
-    return menu ? RemoveFrom(kMenus, id, menu) : RemoveMenus({ id });
+    return menu ? RemoveFrom(ProjectChild::Menus, id, menu) : RemoveMenus({ id });
 }
 
 Status CDSProjectData::RemoveMenus(const std::set<long>& ids)
 {
-    CProjectNode* menus = GetChild(kMenus);
+    CProjectNode* menus = GetChild(ProjectChild::Menus);
     if (!menus)
         return status::kNullPointer;
 
@@ -111,7 +113,7 @@ Status CDSProjectData::RemoveMenus(const std::set<long>& ids)
 
 Status CDSProjectData::MoveMenu(long from, long to)
 {
-    return MoveIn(kMenus, from, to);
+    return MoveIn(ProjectChild::Menus, from, to);
 }
 
 bool CDSProjectData::GetMenuAsType(MenuTypes type, CDSMenu** out)
@@ -123,7 +125,7 @@ bool CDSProjectData::GetMenuAsType(MenuTypes type, CDSMenu** out)
         (void)menu.get_Tag(&tag);
         return tag == static_cast<unsigned long>(type);
     };
-    CDSMenu* found = FindIn<CDSMenu>(GetChild(kMenus), hasType);
+    CDSMenu* found = FindIn<CDSMenu>(GetChild(ProjectChild::Menus), hasType);
     if (found)
         *out = found;
     return found != nullptr;
@@ -144,7 +146,7 @@ Status CDSProjectData::GetDataFile(long index, CDSDataFile* out)
     if (!out)
         return status::kNullPointer;
     CDSDataFile* file = nullptr;
-    const Status found = GetObject(GetChild(kDataFiles), PositionOf(index), &file);
+    const Status found = GetObject(GetChild(ProjectChild::DataFiles), PositionOf(index), &file);
     if (Failed(found))
         return found;
     if (!file)
@@ -155,17 +157,17 @@ Status CDSProjectData::GetDataFile(long index, CDSDataFile* out)
 
 Status CDSProjectData::AddDataFile(long index, CDSDataFile* file)
 {
-    return AddTo(kDataFiles, index, file);
+    return AddTo(ProjectChild::DataFiles, index, file);
 }
 
 Status CDSProjectData::RemoveDataFile(long id, CDSDataFile* file)
 {
-    return RemoveFrom(kDataFiles, id, file);
+    return RemoveFrom(ProjectChild::DataFiles, id, file);
 }
 
 Status CDSProjectData::MoveDataFile(long from, long to)
 {
-    return MoveIn(kDataFiles, from, to);
+    return MoveIn(ProjectChild::DataFiles, from, to);
 }
 
 Status CDSProjectData::FindDataFile(string* source, string* dest, unsigned long tag,
@@ -174,7 +176,7 @@ Status CDSProjectData::FindDataFile(string* source, string* dest, unsigned long 
     if (!out)
         return status::kNullPointer;
     const CDSDataFile* found =
-        FindIn<CDSDataFile>(GetChild(kDataFiles), [&](const CDSDataFile& file) {
+        FindIn<CDSDataFile>(GetChild(ProjectChild::DataFiles), [&](const CDSDataFile& file) {
             return file.Matches(source, dest, tag);
         });
     if (!found)
@@ -188,7 +190,7 @@ Status CDSProjectData::RemoveDataFileBySource(string* source, CDSDataFile* out)
     if (!source)
         return status::kNullPointer;
     CDSDataFile* found =
-        FindIn<CDSDataFile>(GetChild(kDataFiles), [source](const CDSDataFile& file) {
+        FindIn<CDSDataFile>(GetChild(ProjectChild::DataFiles), [source](const CDSDataFile& file) {
             return file.Matches(source, nullptr, 0);
         });
     if (!found)
@@ -200,7 +202,8 @@ Status CDSProjectData::RemoveDataFileBySource(string* source, CDSDataFile* out)
 
 Status CDSProjectData::_Clear()
 {
-    for (const ProjectChild list : { kTitles, kMenus, kDataFiles, kProjectCommands }) {
+    for (const int list : { ProjectChild::Titles, ProjectChild::Menus, ProjectChild::DataFiles,
+                            ProjectChild::Commands }) {
         if (CProjectNode* node = GetChild(list))
             (void)node->ReleaseChildren([](CProjectNode&) { return true; }); // released here
     }
@@ -224,7 +227,7 @@ Status CDSProjectData::AddTo(int position, long index, CProjectNode* node)
     const int place = index == 0 ? count : static_cast<int>(index) - 1;
     if (!list->InsertChild(node, place, true))
         return status::kBadArgument;
-    const bool ownsStoryboard = position == kTitles || position == kMenus;
+    const bool ownsStoryboard = position == ProjectChild::Titles || position == ProjectChild::Menus;
     if (ownsStoryboard && IsTaken(node->GetID(), node))
         node->SetID(GetNewID()); // two of one ID would share an element of the file
     return status::kOk;

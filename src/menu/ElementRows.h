@@ -1,7 +1,7 @@
 #pragma once
 
 #include "menu/MenuElementImpl.h"
-#include "project/AttributeTable.h"
+#include "project/AttributeRows.h"
 
 namespace vantrel {
 

@@ -1,22 +1,19 @@
 #include "project/DSList.h"
 
-#include "core/Number.h"
+#include "project/NodeForm.h"
 
-using std::map;
-using std::string;
 using namespace vantrel;
 
-CDSList::CDSList(eNodeType type) : CProjectNode(type)
+// The attribute of a list.
+struct VANTREL_INTERNAL CDSList::Form
+{
+    static constexpr auto rows = Rows<CDSList>(
+        AttributeRow<CDSList>{ "NumItems",
+                               [](const CDSList& list, std::string& text) {
+                                   AppendNumber(text, static_cast<long>(list.GetNumChildren()));
+                               },
+                               nullptr });
+};
+
+CDSList::CDSList(eNodeType type) : FormedNode(type, kFormOf<CDSList, Form>)
 {}
-
-Status CDSList::FillAttributeMap(map<string, string>& attributes, bool)
-{
-    attributes.clear();
-    attributes["NumItems"] = vantrel::NumberText(static_cast<long>(GetNumChildren()));
-    return status::kOk;
-}
-
-Status CDSList::ParseAttributeMap(const map<string, string>&)
-{
-    return status::kOk;
-}

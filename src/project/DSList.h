@@ -1,18 +1,17 @@
 #pragma once
 
-#include "project/ProjectNode.h"
+#include "project/FormedNode.h"
 
-/// A plain list of a project: its titles, its menus or its data files.
+/// A plain list of a project, which its children make up: "Titles", "Menus" or "DataFiles".
 ///
 /// The element's one attribute, "NumItems", tells a reader of the file how many children there are;
 /// it is never read back.
-class VANTREL_API CDSList : public CProjectNode
+class VANTREL_API CDSList : public vantrel::FormedNode
 {
 public:
+    /// The type says which list it is.
     explicit CDSList(eNodeType type);
 
-    vantrel::Status FillAttributeMap(std::map<std::string, std::string>& attributes,
-                                     bool native) override;
-    vantrel::Status ParseAttributeMap(
-        const std::map<std::string, std::string>& attributes) override;
+private:
+    struct Form;
 };

@@ -11,8 +11,4 @@ namespace vantrel {
 /// none of a repeating element.
 std::unique_ptr<CProjectNode> MakeNode(eNodeType type);
 
-/// Gives `parent` a fixed child of that type when its class has one but doesn't make it by itself: a
-/// title's commands and encoding, which come together and without IDs. Else does nothing.
-void MakeFixedChild(CProjectNode& parent, eNodeType type);
-
 } // namespace vantrel

@@ -4,7 +4,6 @@
 #include "core/Property.h"
 #include "core/Report.h"
 #include "project/AttributeSlots.h"
-#include "project/NodeForm.h"
 #include "project/ResourceLoader.h"
 #include "xml/XmlValue.h"
 
@@ -30,9 +29,6 @@ bool HasLastingID(eNodeType type)
 } // namespace
 
 CProjectNode::CProjectNode(eNodeType type) : m_type(type)
-{}
-
-CProjectNode::CProjectNode(eNodeType type, const NodeForm& form) : m_type(type), m_form(&form)
 {}
 
 CProjectNode::~CProjectNode()
@@ -85,8 +81,6 @@ Status CProjectNode::ReadXML(IXMLDOMNode* node)
     KeepDocumentPath(node->doc);
     if (!IsElement(node) || !node->properties)
         return status::kNothingDone;
-    if (m_form && m_form->isExactly(*this))
-        return m_form->read(*this, node);
     return ReadAttributesByMap(node);
 }
 
@@ -124,9 +118,6 @@ Status CProjectNode::ReadAttributesByMap(const _xmlNode* element)
 
 Status CProjectNode::WriteXML(IXMLDOMNode* node, long native)
 {
-    if (IsElement(node) && !node->properties && m_form && m_form->isExactly(*this))
-        return m_form->write(*this, node, native != 0);
-
     map<string, string> attributes;
     const Status filled = FillAttributeMap(attributes, native != 0);
     return Failed(filled) ? filled : WriteNodeAttributes(node, attributes);

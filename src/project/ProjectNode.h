@@ -14,10 +14,6 @@
 
 class CResourceLoader;
 
-namespace vantrel {
-struct NodeForm;
-}
-
 /// The base of every object of a disc project: a place in one tree (a parent, an ordered list of
 /// children), an ID that stays unique over save and load, and the way between the node's state and
 /// the attributes of one XML element.
@@ -153,10 +149,8 @@ public:
     static unsigned long sm_dwNextID;
 
 protected:
-    /// For a class whose attributes all stand in one table: `form` lets the base move them between
-    /// object and element without a map in between. A further derived class goes through the map
-    /// again, so that its overrides count.
-    CProjectNode(eNodeType type, const vantrel::NodeForm& form);
+    /// Remembers where the document that is read from lies. `doc` may be null.
+    void KeepDocumentPath(const _xmlDoc* doc);
 
 private:
     bool Link(CProjectNode* child, std::size_t position, bool assignID);
@@ -164,7 +158,6 @@ private:
     bool HangsBelow(const CProjectNode* node) const;
     CProjectNode& Root();
     void Count(const CProjectNode& added, long number);
-    void KeepDocumentPath(const _xmlDoc* doc);
     vantrel::Status ReadAttributesByMap(const _xmlNode* element);
 
     std::shared_ptr<const std::string> m_documentPath; ///< shared with the parent where equal
@@ -176,7 +169,6 @@ private:
     std::vector<CProjectNode*> m_children; ///< owned where the child says so
     CProjectNode* m_parent = nullptr;      ///< not owned
     CProjectNode* m_holder = nullptr;      ///< whose list this node stands in; not owned
-    const vantrel::NodeForm* m_form = nullptr;
     using IDCounts = std::unordered_map<long, long>;
     std::unique_ptr<IDCounts> m_idCounts; ///< of a root: how many nodes have each ID
 };

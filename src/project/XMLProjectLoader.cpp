@@ -1,8 +1,8 @@
 #include "project/XMLProjectLoader.h"
 
 #include "project/ElementLookup.h"
+#include "project/FormedNode.h"
 #include "project/NodeFactory.h"
-#include "project/ProjectNode.h"
 #include "xml/XmlValue.h"
 
 #include <memory>
@@ -17,9 +17,10 @@ namespace {
 CProjectNode* FixedChild(const XMLPersistEntry& row, CProjectNode& parent)
 {
     CProjectNode* child = parent.FindChildByType(row.nodeType, row.strElement);
-    if (child)
+    auto* formed = child ? nullptr : dynamic_cast<FormedNode*>(&parent);
+    if (!formed || !formed->HasFixedChild(row.nodeType))
         return child;
-    MakeFixedChild(parent, row.nodeType);
+    (void)formed->MakeFixedChildren(false); // told by what is found
     return parent.FindChildByType(row.nodeType, row.strElement);
 }
 
