@@ -93,3 +93,11 @@ bool vantrel::HasContentToken(std::string_view path)
 {
     return path.find(Utils::kContentToken) <= 1;
 }
+
+string vantrel::ResolvedPath(string path)
+{
+    do
+        Utils::ResolveFilePath(&path);
+    while (HasContentToken(path)); // each round takes one token away
+    return path;
+}

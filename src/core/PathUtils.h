@@ -42,6 +42,9 @@ namespace vantrel {
 /// or with a drive letter and ":". A stored path of any other form is relative to a content folder.
 VANTREL_API bool IsAbsolutePath(std::string_view path);
 
+/// `path` as `Utils::ResolveFilePath` leaves it at last: a further load changes it no more.
+VANTREL_API std::string ResolvedPath(std::string path);
+
 /// True when "%CONTENT%" stands where `Utils::ResolveFilePath` takes it away.
 VANTREL_API bool HasContentToken(std::string_view path);
 

@@ -226,7 +226,7 @@ Status CDSMenuOverlay::get_AlphaMask(string* out)
 
 Status CDSMenuOverlay::put_AlphaMask(string value)
 {
-    return setAlphaMask(std::move(value));
+    return setAlphaMask(StoredMask(std::move(value)));
 }
 
 Status CDSMenuOverlay::get_InPoint(double* out)

@@ -93,12 +93,16 @@ Status CMenuOverlayImpl::getModelRect(vector<FPoint>& corners) const
     return status::kOk;
 }
 
+string CMenuOverlayImpl::StoredMask(string path)
+{
+    // An absolute path stays as it was put.
+    return IsAbsolutePath(path) && !HasContentToken(path) ? path : ResolvedPath(std::move(path));
+}
+
 string CMenuOverlayImpl::StoredSource(string path)
 {
     const bool isInContent = HasContentToken(path);
-    if (IsAbsolutePath(path) && !isInContent)
-        return path;                     // as it was put
-    (void)Utils::ResolveFilePath(&path); // has no failure to tell
+    path = StoredMask(std::move(path));
     if (isInContent)
         path.erase(0, path.find_first_not_of('/')); // it is relative now
     return path;
@@ -107,8 +111,7 @@ string CMenuOverlayImpl::StoredSource(string path)
 void CMenuOverlayImpl::ResolvePaths()
 {
     m_source = StoredSource(std::move(m_source));
-    if (!m_alphaMask.empty())
-        (void)Utils::ResolveFilePath(&m_alphaMask);
+    m_alphaMask = StoredMask(std::move(m_alphaMask));
 }
 
 AttributeTable<CMenuOverlayImpl> CMenuOverlayImpl::Attributes()

@@ -53,6 +53,8 @@ protected:
 
     /// A source as it is held: relative without "%CONTENT%", with "/"; an absolute one as it is.
     static std::string StoredSource(std::string path);
+    /// The same for a mask, but that what follows "%CONTENT%" keeps its separator.
+    static std::string StoredMask(std::string path);
 
 private:
     static vantrel::AttributeTable<CMenuOverlayImpl> Attributes();

@@ -37,8 +37,7 @@ void SaveMetaDataRow(const MemberPlace& place, const char* name, const Base& obj
 void LoadMetaDataRow(xmlNode* element, Base& object)
 {
     LoadMetaData(element, object.m_metaData);
-    if (!object.m_metaData.contains(kTrackStatusKey))
-        AddTrackStatus(object.m_metaData);
+    CompleteMetaData(object.m_metaData);
 }
 
 using namespace vantrel::member;
@@ -97,6 +96,7 @@ Status CBaseObjectImpl::SaveThumbnail(long id)
 
 Status CXMLBaseObjectImpl::SaveMembers()
 {
+    CompleteMetaData(m_object.m_metaData);
     SaveTable(kBaseObject);
     return status::kOk;
 }

@@ -17,16 +17,19 @@ namespace {
 
 constexpr const char* kId = "Id"; // the storyboard gives it, whatever a file says
 
-const xmlNode* SkipBlank(const xmlNode* node)
-{
-    while (node && node->type == XML_TEXT_NODE && xmlIsBlankNode(node))
-        node = node->next;
-    return node;
-}
-
 string_view Text(const xmlNode* node)
 {
     return node->content ? Chars(node->content) : "";
+}
+
+/// `node` or the first behind it that says something: a text of no length never does, white space
+/// only in a value.
+const xmlNode* NextSaying(const xmlNode* node, bool inValue)
+{
+    while (node && node->type == XML_TEXT_NODE &&
+           (inValue ? Text(node).empty() : xmlIsBlankNode(node) != 0))
+        node = node->next;
+    return node;
 }
 
 bool HasSameAttributes(const xmlNode* a, const xmlNode* b)
@@ -55,7 +58,7 @@ bool IsSame(const xmlNode* a, const xmlNode* b)
         return true;
     // Between elements white space says nothing; a value's own text is never skipped.
     const bool isValue = !NextElement(a->children) && !NextElement(b->children);
-    const auto next = [isValue](const xmlNode* node) { return isValue ? node : SkipBlank(node); };
+    const auto next = [isValue](const xmlNode* node) { return NextSaying(node, isValue); };
     const xmlNode* one = next(a->children);
     const xmlNode* other = next(b->children);
     for (; one && other; one = next(one->next), other = next(other->next)) {

@@ -36,6 +36,13 @@ void AddTrackStatus(MetaDataMap& map)
         map.insert_or_assign(kTrackStatusKey, std::move(visible));
 }
 
+void CompleteMetaData(MetaDataMap& map)
+{
+    const auto found = map.find(kTrackStatusKey);
+    if (found == map.end() || !found->second)
+        AddTrackStatus(map);
+}
+
 Status SetMetaDataEntry(MetaDataMap& map, string key, const xmlNode* node)
 {
     FoldCase(key);

@@ -15,6 +15,9 @@ inline constexpr const char* kTrackStatusKey = "trackstatus";
 /// Gives `map` the entry of a new object: which tracks show, none of them.
 void AddTrackStatus(MetaDataMap& map);
 
+/// The same for an object that has lost it, as a load does: so a save writes what a load gives.
+void CompleteMetaData(MetaDataMap& map);
+
 /// Stores a deep copy of `node` under the key in lower case; what was there is released. A key that
 /// can't name an element, or no node, gives `status::kBadArgument`.
 Status SetMetaDataEntry(MetaDataMap& map, std::string key, const xmlNode* node);

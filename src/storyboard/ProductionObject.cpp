@@ -1,7 +1,9 @@
 #include "storyboard/ProductionObject.h"
 
+#include "core/Number.h"
 #include "core/Property.h"
 #include "storyboard/AudioObject.h"
+#include "storyboard/BaseObject.h"
 #include "storyboard/MetaData.h"
 #include "storyboard/MotionObject.h"
 #include "storyboard/PersistParts.h"
@@ -29,9 +31,16 @@ std::int64_t GradientSize(const Production& production)
 
 void SaveDuration(const MemberPlace& place, const char* name, const Production& production)
 {
-    double duration = 0.0;
-    (void)production.ComputeDuration(&duration); // fails on null alone
-    AddValue<typed::Double>(place.node, name, duration);
+    // Of the panels as the file has them, with six digits: the next load has no others.
+    double sum = 0.0;
+    static const decltype(CQZBaseSBD::m_panels) none;
+    for (const auto& [key, panel] : production.GetSBD() ? production.GetSBD()->m_panels : none) {
+        if (!FitsItsKey(key, panel.get()))
+            continue;
+        const double duration = ParseDouble(NumberText(panel->m_duration));
+        sum += IsClipKey(key) ? duration : -duration;
+    }
+    AddValue<typed::Double>(place.node, name, sum > 0.0 ? sum : 0.0);
 }
 
 void SaveIdentifier(const MemberPlace& place, const char* name, const Production& production)
@@ -169,6 +178,7 @@ Status CProductionObject::PersistXML(_xmlNode* node, bool save)
 {
     if (!node)
         return status::kBadArgument;
+    CompleteMetaData(m_metaData);
     if (save)
         SaveRows({ node }, kProduction, *this);
     else

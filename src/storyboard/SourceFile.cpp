@@ -106,8 +106,7 @@ string CSourceFileImpl::CleanFileName(string name)
         }
         name.resize(std::min(write, name.size()));
     }
-    Utils::ResolveFilePath(&name);
-    return name;
+    return ResolvedPath(std::move(name));
 }
 
 Status CXMLSourceFileImpl::SaveMembers()
