@@ -2,101 +2,45 @@
 
 #include <Vantrel.h>
 
-#include <cstdio>
-#include <cstring>
-#include <string>
-
-using namespace vantrel;
+#include <iostream>
 
 namespace {
 
-// Layer types are the application's; this one has its captions on type 1.
+// Layers and what the plug-in of an effect understands are the application's.
 constexpr long kCaptionLayer = 5;
-constexpr tagENM_LAYER_TYPE kCaptionType{ 1 };
-
-/// What the plug-in of an effect understands; the library carries it as it is.
+constexpr long kCaptionType = 1;
 constexpr char kCaption[] = "<effect><name>Caption</name><plugin_data>"
                             "<html><body>The ferry at dawn</body></html>"
                             "</plugin_data></effect>";
 
-/// A panel that shows `seconds` of a file, from `inPoint` on.
-CClipObject* AddClip(CQZBaseSBD& storyboard, long key, const char* file, double inPoint,
-                     double seconds)
+/// Two clips with a transition between them, a caption on the first and music below both.
+vantrel::OwnedProject MakeDisc()
 {
-    CClipObject* clip = storyboard.AddClipPanel(key);
-    clip->m_fileName = file;
-    clip->m_inPoint = inPoint;
-    clip->m_outPoint = inPoint + seconds;
-    clip->m_duration = seconds;
-    return clip;
-}
+    vantrel::OwnedProject disc("Three Weeks North");
+    const auto line = disc.addTitle("The Road North").makeStoryboard();
 
-/// Two clips with a transition between them: clips have even keys, transitions odd ones.
-void BuildTimeLine(CQZBaseSBD& storyboard, xmlNode* caption)
-{
-    CClipObject* ferry = AddClip(storyboard, 0, "Footage/ferry.mpg", 2.0, 12.0);
-    storyboard.AddTransition(1)->m_duration = 1.0;
-    AddClip(storyboard, 2, "Footage/road.mpg", 0.0, 8.0);
+    const auto ferry = line.addClip("Footage/ferry.mpg", 2.0, 14.0);
+    line.addTransition(1.0);
+    line.addClip("Footage/road.mpg", 0.0, 8.0);
 
-    CEffectObject* effect = ferry->AddEffect(kCaptionLayer, kCaptionType);
-    effect->m_startOffset = 0.5;
-    effect->m_endOffset = 4.0;
-    effect->PutData(caption, false);
-
-    CProductionObject* production = nullptr;
-    if (storyboard.GetProductionObj(&production) != status::kOk)
-        return;
-    CAudioObject* music = production->AddAudio();
-    music->m_fileName = "Sound/accordion.wav";
-    music->m_endOffset = getSbdDuration(&storyboard);
-    music->m_fadeOut = 3.0;
-}
-
-/// A project with one title, saved as `path`. Whatever lends itself to the project outlives the save.
-Status Save(const char* path)
-{
-    const vantrel::XmlDocPtr caption(
-        xmlReadMemory(kCaption, int(std::strlen(kCaption)), nullptr, nullptr, XML_PARSE_NONET));
-    CDSProjectData project;
-    project.put_Label("Three Weeks North");
-
-    CDSTitle title;
-    title.FinalConstruct();
-    title.put_Label("The Road North");
-    title.CreateProduction();
-    CQZBaseSBD* storyboard = nullptr;
-    title.GetProduction(&storyboard);
-    BuildTimeLine(*storyboard, xmlDocGetRootElement(caption.get()));
-
-    const Status added = project.AddTitle(0, &title); // 0 appends
-    return Failed(added) ? added : CDSFileService().SaveProjectAtomic(path, &project);
-}
-
-/// Loads the project at `path` and tells what its first title plays.
-Status Tell(const char* path)
-{
-    CDSProjectData project;
-    const Status loaded = CDSFileService().LoadProject(path, &project);
-    CDSTitle* title = nullptr;
-    CQZBaseSBD* storyboard = nullptr;
-    if (Failed(loaded) || Failed(project.GetTitle(1, &title)) || !title ||
-        Failed(title->GetProduction(&storyboard)))
-        return status::kFailure;
-
-    std::string label;
-    std::string video;
-    std::string audio;
-    title->get_Label(&label);
-    getSbdBkgndVideo(storyboard, &video);
-    getSbdBkgndAudio(storyboard, &audio);
-    std::printf("%s: %g seconds, from %s on, to %s\n", label.c_str(), getSbdDuration(storyboard),
-                video.c_str(), audio.c_str());
-    return status::kOk;
+    const auto caption = ferry.addEffect(kCaptionLayer, kCaptionType);
+    caption.place(0.5, 4.0);
+    caption.data(kCaption);
+    line.addAudio("Sound/accordion.wav", 0.0, line.duration()).fadeOut(3.0);
+    return disc;
 }
 
 } // namespace
 
 int main(int argc, char** argv)
 {
-    return argc != 2 || Failed(Save(argv[1])) || Failed(Tell(argv[1])) ? 1 : 0;
+    const std::string path = argc == 2 ? argv[1] : "";
+    const auto saved = vantrel::Save(MakeDisc(), path);
+    const auto disc = vantrel::Load(path);
+
+    const auto title = disc->titles().front();
+    const auto line = title.storyboard();
+    std::cout << title.label() << ": " << line.duration() << " seconds, from "
+              << line.clips().front().file() << " on, to " << line.audio().front().file() << '\n';
+    return saved && disc ? 0 : 1;
 }

@@ -10,3 +10,5 @@ say "Files: time and memory against libxml2 alone"
 build/bench/bench/file_bench
 say "Small operations"
 build/bench/bench/micro_bench
+say "Handles beside the classes beneath them"
+build/bench/bench/values/values_bench

@@ -78,6 +78,7 @@ void Report(std::string_view text) noexcept
 {
     Message message;
     message.text = text;
+    message.words = text.substr(0, text.find_last_not_of('\n') + 1);
     MessageRoute::Current().Send(message);
 }
 

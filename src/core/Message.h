@@ -25,6 +25,7 @@ namespace vantrel {
 struct Message
 {
     std::string_view text;        ///< as it is printed, with its line feed where it has one
+    std::string_view words;       ///< the same without place and line feed
     std::string_view path;        ///< the XML file that is meant, or empty
     int line = 0;                 ///< in that file, from 1; 0 when none is meant
     int column = 0;               ///< the same

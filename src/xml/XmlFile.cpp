@@ -167,6 +167,7 @@ void ReportUnopened(const char* path)
     const string text = string("can't open \"") + path + "\"\n";
     Message message;
     message.text = text;
+    message.words = string_view(text).substr(0, text.size() - 1);
     message.path = path;
     message.toStandardError = true;
     MessageRoute::Current().Send(message);

@@ -4,10 +4,17 @@
 
 #include <new>
 #include <string>
+#include <string_view>
 
 namespace vantrel {
 
 namespace {
+
+std::string_view Words(const xmlError& error)
+{
+    const std::string_view words = error.message ? error.message : "";
+    return words.substr(0, words.find_last_not_of('\n') + 1);
+}
 
 /// As libxml2 prints it, without the piece of the file.
 std::string TextOf(const xmlError& error)
@@ -16,8 +23,7 @@ std::string TextOf(const xmlError& error)
     if (error.file)
         text = std::string(error.file) + ':' + std::to_string(error.line) + ": ";
     text += error.level == XML_ERR_WARNING ? "warning : " : "error : ";
-    text += error.message ? error.message : "no words for it\n";
-    return text;
+    return text.append(Words(error)) + '\n';
 }
 
 } // namespace
@@ -43,6 +49,7 @@ void XmlReports::Pass(void* self, xmlError* error) noexcept
         const std::string text = TextOf(*error);
         Message message;
         message.text = text;
+        message.words = Words(*error);
         message.path = error->file ? error->file : "";
         message.line = error->line;
         message.column = error->domain == XML_FROM_PARSER ? error->int2 : 0;

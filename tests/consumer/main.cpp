@@ -200,6 +200,20 @@ void UseProject(const std::string& path)
     Require(loaded && loaded->get_Label(&label) == status::kOk && label == "North", "whole");
 }
 
+/// The same by handles, which need no symbol of their own.
+void UseValues(const std::string& path)
+{
+    OwnedProject disc("Disc");
+    disc.addTitle("North").makeStoryboard().addClip("north.mpg", 0.0, 5.0);
+    disc.addMenu("Main").addButton("Play").addText("Play it");
+    Require(bool(Save(disc.view(), path)), "handles are saved");
+    const auto loaded = Load(path);
+    Require(loaded->titles().find("North").duration() == 5.0, "and loaded");
+    const Button button = loaded->menus().front().buttons().find("Play");
+    Require(button.texts().front().words() == "Play it", "whole");
+    Require(button.object() && Button(button.object()) == button, "and lead to the classes");
+}
+
 } // namespace
 
 int main(int, char** argv)
@@ -214,5 +228,6 @@ int main(int, char** argv)
     UseTransform();
     UseElements();
     UseProject(std::string(argv[0]) + ".xml");
+    UseValues(std::string(argv[0]) + ".xml");
     std::puts("consumer: all families answer");
 }
