@@ -9,6 +9,8 @@
 #include "xml/XmlFile.h"
 #include "xml/XmlValue.h"
 
+#include <sanitizer/allocator_interface.h>
+
 using namespace vantrel;
 
 namespace {
@@ -19,16 +21,28 @@ XmlDocPtr Parse(const std::string& bytes)
                                     XML_PARSE_NONET) };
 }
 
-/// Loads a document's project and gives it back as a file; empty when there is none.
-std::string LoadAndSave(xmlDoc* doc)
+/// What a load may hold and a save may write of a file: the smallest element stands for a menu with
+/// all that belongs to it, so that the multiple is large, but it is one.
+std::size_t Bound(std::size_t size)
+{
+    return 4096 * size + (4U << 20);
+}
+
+/// Loads a document's project and gives it back as a file; empty when there is none. `size` is that
+/// of the file.
+std::string LoadAndSave(xmlDoc* doc, std::size_t size)
 {
     xmlNode* root = doc ? xmlDocGetRootElement(doc) : nullptr;
     if (!root)
         return {};
+    const std::size_t before = __sanitizer_get_current_allocated_bytes();
     CDSProjectData project;
     CDSFileService service;
     (void)service.ReadVersion(AsElement(root));
     (void)service.ReadProjectXML(AsNode(root), &project); // any answer is fine
+    const std::size_t after = __sanitizer_get_current_allocated_bytes();
+    fuzz::Require(after < before || after - before <= Bound(size),
+                  "memory keeps to the file's size");
 
     const XmlDocPtr saved{ xmlNewDoc(XmlChars("1.0")) };
     xmlNode* savedRoot = xmlNewDocNode(saved.get(), nullptr, XmlChars("Root"), nullptr);
@@ -37,6 +51,7 @@ std::string LoadAndSave(xmlDoc* doc)
     fuzz::Require(!Failed(service.WriteProjectXML(AsNode(savedRoot), &project)), "can be saved");
     std::string bytes;
     fuzz::Require(SerializeXml(saved.get(), &bytes), "can be serialised");
+    fuzz::Require(bytes.size() <= Bound(size), "what is written keeps to the file's size");
     return bytes;
 }
 
@@ -44,7 +59,7 @@ std::string LoadSaved(const std::string& bytes)
 {
     const XmlDocPtr doc = Parse(bytes);
     fuzz::Require(doc != nullptr, "can be read back");
-    return LoadAndSave(doc.get());
+    return LoadAndSave(doc.get(), bytes.size());
 }
 
 } // namespace
@@ -54,7 +69,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     fuzz::Silence();
     CProjectNode::sm_dwNextID = 1; // so that every run has the same IDs
     const std::string bytes(reinterpret_cast<const char*>(data), size);
-    const std::string first = LoadAndSave(Parse(bytes).get());
+    const std::string first = LoadAndSave(Parse(bytes).get(), size);
     if (first.empty())
         return 0;
     const std::string second = LoadSaved(first);

@@ -13,6 +13,7 @@ using namespace vantrel;
 namespace {
 
 constexpr long kMostBands = 4'096;
+constexpr long kFreeBands = 64;     // of which a file need not hold any
 constexpr long kUsualLength = 2048; // of a file that doesn't tell
 constexpr std::string_view kBandPrefix = "Band_";
 
@@ -86,24 +87,21 @@ Status EQualizerModel::Load(_xmlNode* node)
         m_isValid = counted == status::kOk;
         return counted;
     }
-    if (m_bands < 0 || m_bands > kMostBands)
+    const auto bands = FindBands(node, m_bands);
+    // A small file that tells of many bands is not worth the memory.
+    if (m_bands < 0 || m_bands > std::min(kMostBands, kFreeBands + 16 * std::ssize(bands)))
         return status::kBadArgument;
 
     m_fftLength = kUsualLength;
     const Status measured = XMLHelpers<void>::LoadLongNode(node, "FFTLeng", "", &m_fftLength);
     m_isValid = measured == status::kOk;
-    LoadBands(node);
-    return measured;
-}
-
-void EQualizerModel::LoadBands(const _xmlNode* node)
-{
     const auto room = static_cast<std::size_t>(m_bands);
     m_frequencies = std::make_unique<float[]>(room);
     m_values = std::make_unique<float[]>(room);
     long slot = 0;
-    for (const auto& [index, band] : FindBands(node, m_bands))
+    for (const auto& [index, band] : bands)
         LoadBand(band, slot++);
+    return measured;
 }
 
 void EQualizerModel::LoadBand(const _xmlNode* band, long slot)

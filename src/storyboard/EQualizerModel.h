@@ -22,7 +22,7 @@ public:
 
     /// Null gives `status::kFailure`. Reading gives `status::kNothingDone` when the number of bands
     /// or the length is missing, and `status::kBadArgument`, without any arrays, for a number of
-    /// bands that is negative or above 4,096.
+    /// bands that is negative, above 4,096, or out of proportion to those that the file has.
     vantrel::Status PersistToXML(_xmlNode* node, bool save);
 
     bool m_isValid; ///< the model was read, and every band made sense
@@ -36,6 +36,5 @@ public:
 private:
     vantrel::Status Save(_xmlNode* node) const;
     vantrel::Status Load(_xmlNode* node);
-    void LoadBands(const _xmlNode* node);
     void LoadBand(const _xmlNode* band, long slot);
 };

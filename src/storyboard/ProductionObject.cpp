@@ -23,6 +23,7 @@ using Production = CProductionObject;
 constexpr const char* kWithWatermark = "{F66FD1A7-5276-4671-86E7-213D3C55BFD9}";
 constexpr const char* kWithoutWatermark = "{941D8B77-2EA3-4157-9F5D-49AB36D5B2F6}";
 constexpr std::int64_t kMostColors = 65'536;
+constexpr std::int64_t kFreeColors = 64; // of which a file need not hold any
 
 std::int64_t GradientSize(const Production& production)
 {
@@ -101,13 +102,17 @@ void LoadGradient(xmlNode* element, Production& production)
     const std::int64_t count = GradientSize(production);
     if (count < 1)
         return;
-    production.m_gradientColors.assign(count > kMostColors ? 0 : static_cast<std::size_t>(count),
-                                       0);
+    std::vector<xmlNode*> colors;
     for (xmlNode* child : ChildElements(element)) {
+        if (IsNamed(child, "color"))
+            colors.push_back(child);
+    }
+    // A small file that tells of a large gradient is not worth the memory.
+    const std::int64_t most = std::min(kMostColors, kFreeColors + 16 * std::ssize(colors));
+    production.m_gradientColors.assign(count > most ? 0 : static_cast<std::size_t>(count), 0);
+    for (xmlNode* child : colors) {
         // A colour without an index has no place, so its index starts out of range.
         GradientColor color{ ~0UL, 0 };
-        if (!IsNamed(child, "color"))
-            continue;
         LoadRows({ child }, kGradientColor, color);
         if (color.index < production.m_gradientColors.size())
             production.m_gradientColors[color.index] = color.rgb;

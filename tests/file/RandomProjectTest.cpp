@@ -11,7 +11,7 @@ TEST(RandomProjects, AreTheSameByteForByteOnceSaved)
 {
     const ScratchFolder folder;
     const string path = folder / "a.xml";
-    for (unsigned seed = 0; seed < 300; ++seed) {
+    for (unsigned seed = 0; seed < 120; ++seed) {
         SCOPED_TRACE(seed);
         RandomProject made(seed);
         ASSERT_EQ(CDSFileService().SaveProject(path, &made.project), status::kOk);

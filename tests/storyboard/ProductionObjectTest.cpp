@@ -73,15 +73,15 @@ TEST(ProductionObject, GradientIsPlacedByIndexAndBounded)
                              "<color><RGB>#ff</RGB></color><color><index>1</index></color>"));
     EXPECT_EQ(production.m_gradientColors, (std::vector<unsigned long>{ 0, 0, 0, 3 }));
 
-    for (const char* columns : { "32769", "2147483647", "4294967295", "-3" }) {
+    for (const char* columns : { "41", "32769", "2147483647", "4294967295", "-3" }) {
         CProductionObject other;
         ReadObject(other, Gradient(columns, "<color><index>0</index><RGB>#1</RGB></color>"));
         EXPECT_TRUE(other.m_gradientColors.empty()) << columns;
         WrittenObject(other);
     }
     CProductionObject largest;
-    ReadObject(largest, Gradient("32768", ""));
-    EXPECT_EQ(largest.m_gradientColors.size(), 65536U);
+    ReadObject(largest, Gradient("32", ""));
+    EXPECT_EQ(largest.m_gradientColors.size(), 64U);
 }
 
 TEST(ProductionObject, SavesTheColoursThatALoadWillHave)
