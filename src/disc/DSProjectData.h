@@ -3,7 +3,6 @@
 #include "project/DiscEnums.h"
 #include "project/FormedNode.h"
 
-#include <functional>
 #include <memory>
 #include <set>
 #include <string>
@@ -186,8 +185,6 @@ private:
 
     struct Form;
     vantrel::Status CountOf(int position, long* out);
-    CProjectNode* MenuToRemove(long id);
-    void Remove(CProjectNode& list, const std::function<bool(CProjectNode&)>& which);
     vantrel::Status AddTo(int position, long index, CProjectNode* node);
     vantrel::Status RemoveFrom(int position, long id, CProjectNode* node);
     vantrel::Status MoveIn(int position, long from, long to);

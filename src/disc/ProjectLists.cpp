@@ -5,8 +5,8 @@
 #include "disc/DSProjectData.h"
 #include "disc/DSTitle.h"
 
+#include <algorithm>
 #include <iterator>
-#include <map>
 
 using std::string;
 using namespace vantrel;
@@ -37,6 +37,27 @@ bool IsTemplate(const CDSMenu& menu)
     unsigned long tag = 0;
     (void)menu.get_Tag(&tag);
     return (tag & kTemplateMenu) != 0 && (tag & kOrdinaryMenu) == 0;
+}
+
+Status Copied(const CDSDataFile& file, CDSDataFile* out)
+{
+    return Guarded([&] {
+        out->CopyValues(file);
+        return status::kOk;
+    });
+}
+
+/// Which of several with one ID is removed: the first menu that is a template, else the first. Null for
+/// none.
+CProjectNode* ChosenOf(const std::vector<CProjectNode*>& nodes)
+{
+    const auto goes = std::ranges::find_if(nodes, [](CProjectNode* node) {
+        const auto* menu = dynamic_cast<const CDSMenu*>(node);
+        return menu && IsTemplate(*menu);
+    });
+    if (goes != nodes.end())
+        return *goes;
+    return nodes.empty() ? nullptr : nodes.front();
 }
 
 } // namespace
@@ -86,7 +107,7 @@ Status CDSProjectData::InsertMenu(long index, CDSMenu* menu)
 
 Status CDSProjectData::RemoveMenu(long id, CDSMenu* menu)
 {
-    return menu ? RemoveFrom(ProjectChild::Menus, id, menu) : RemoveMenus({ id });
+    return RemoveFrom(ProjectChild::Menus, id, menu);
 }
 
 Status CDSProjectData::RemoveMenus(const std::set<long>& ids)
@@ -95,20 +116,18 @@ Status CDSProjectData::RemoveMenus(const std::set<long>& ids)
     if (!menus)
         return status::kNullPointer;
 
-    std::map<long, CDSMenu*> chosen; // of each ID the first template, else the first menu
-    for (int i = 0; i < menus->GetNumChildren(); ++i) {
-        auto* menu = dynamic_cast<CDSMenu*>(menus->GetChild(i));
-        if (!menu || !ids.contains(menu->GetID()))
-            continue;
-        CDSMenu*& goes = chosen[menu->GetID()];
-        if (!goes || (IsTemplate(*menu) && !IsTemplate(*goes)))
-            goes = menu;
-    }
-    Remove(*menus, [&chosen](CProjectNode& menu) {
-        const auto goes = chosen.find(menu.GetID());
-        return goes != chosen.end() && goes->second == &menu;
+    return Guarded([&] {
+        std::set<const CProjectNode*> chosen;
+        for (const long id : ids) {
+            if (const CProjectNode* menu = ChosenOf(menus->FindChildrenByID(id)))
+                chosen.insert(menu);
+        }
+        m_removed.reserve(m_removed.size() + chosen.size());
+        auto owned = menus->ReleaseChildren(
+            [&chosen](CProjectNode& menu) { return chosen.contains(&menu); });
+        std::move(owned.begin(), owned.end(), std::back_inserter(m_removed));
+        return chosen.size() == ids.size() ? status::kOk : status::kNoSuchObject;
     });
-    return chosen.size() == ids.size() ? status::kOk : status::kNoSuchObject;
 }
 
 Status CDSProjectData::MoveMenu(long from, long to)
@@ -149,10 +168,7 @@ Status CDSProjectData::GetDataFile(long index, CDSDataFile* out)
     const Status found = GetObject(GetChild(ProjectChild::DataFiles), PositionOf(index), &file);
     if (Failed(found))
         return found;
-    if (!file)
-        return status::kNoSuchObject;
-    out->CopyValues(*file);
-    return status::kOk;
+    return file ? Copied(*file, out) : status::kNoSuchObject;
 }
 
 Status CDSProjectData::AddDataFile(long index, CDSDataFile* file)
@@ -179,10 +195,7 @@ Status CDSProjectData::FindDataFile(string* source, string* dest, unsigned long 
         FindIn<CDSDataFile>(GetChild(ProjectChild::DataFiles), [&](const CDSDataFile& file) {
             return file.Matches(source, dest, tag);
         });
-    if (!found)
-        return status::kNothingDone;
-    out->CopyValues(*found);
-    return status::kOk;
+    return found ? Copied(*found, out) : status::kNothingDone;
 }
 
 Status CDSProjectData::RemoveDataFileBySource(string* source, CDSDataFile* out)
@@ -195,9 +208,8 @@ Status CDSProjectData::RemoveDataFileBySource(string* source, CDSDataFile* out)
         });
     if (!found)
         return status::kNoSuchObject;
-    if (out)
-        out->CopyValues(*found);
-    return RemoveDataFile(0, found);
+    const Status copied = out ? Copied(*found, out) : status::kOk;
+    return Failed(copied) ? copied : RemoveDataFile(0, found);
 }
 
 Status CDSProjectData::_Clear()
@@ -210,12 +222,6 @@ Status CDSProjectData::_Clear()
     return status::kOk;
 }
 
-void CDSProjectData::Remove(CProjectNode& list, const std::function<bool(CProjectNode&)>& which)
-{
-    auto owned = list.ReleaseChildren(which);
-    std::move(owned.begin(), owned.end(), std::back_inserter(m_removed));
-}
-
 Status CDSProjectData::AddTo(int position, long index, CProjectNode* node)
 {
     CProjectNode* list = GetChild(position);
@@ -225,12 +231,16 @@ Status CDSProjectData::AddTo(int position, long index, CProjectNode* node)
     if (index < 0 || index > count + 1L)
         return status::kNoSuchObject;
     const int place = index == 0 ? count : static_cast<int>(index) - 1;
-    if (!list->InsertChild(node, place, true))
-        return status::kBadArgument;
     const bool ownsStoryboard = position == ProjectChild::Titles || position == ProjectChild::Menus;
-    if (ownsStoryboard && IsTaken(node->GetID(), node))
-        node->SetID(GetNewID()); // two of one ID would share an element of the file
-    return status::kOk;
+    return Guarded([&] {
+        if (ownsStoryboard)
+            (void)IsTaken(0, nullptr); // what needs memory for the question below comes first
+        if (!list->InsertChild(node, place, true))
+            return status::kBadArgument;
+        if (ownsStoryboard && IsTaken(node->GetID(), node))
+            node->SetID(GetNewID()); // two of one ID would share an element of the file
+        return status::kOk;
+    });
 }
 
 Status CDSProjectData::RemoveFrom(int position, long id, CProjectNode* node)
@@ -238,11 +248,16 @@ Status CDSProjectData::RemoveFrom(int position, long id, CProjectNode* node)
     CProjectNode* list = GetChild(position);
     if (!list)
         return status::kNullPointer;
-    if (!node)
-        node = list->FindChildByID(static_cast<unsigned long>(id), nullptr);
-    const int count = list->GetNumChildren();
-    Remove(*list, [node](CProjectNode& child) { return &child == node; });
-    return list->GetNumChildren() < count ? status::kOk : status::kNoSuchObject;
+    return Guarded([&] {
+        if (!node)
+            node = ChosenOf(list->FindChildrenByID(id));
+        const int count = list->GetNumChildren();
+        m_removed.emplace_back(); // before anything is changed
+        m_removed.back() = list->ReleaseChild(node);
+        if (!m_removed.back())
+            m_removed.pop_back();
+        return list->GetNumChildren() < count ? status::kOk : status::kNoSuchObject;
+    });
 }
 
 Status CDSProjectData::MoveIn(int position, long from, long to)

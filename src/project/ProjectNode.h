@@ -5,11 +5,12 @@
 #include "project/NodeType.h"
 #include "xml/DsXml.h"
 
+#include <cstdint>
 #include <functional>
 #include <map>
 #include <memory>
+#include <span>
 #include <string>
-#include <unordered_map>
 #include <vector>
 
 class CResourceLoader;
@@ -96,6 +97,10 @@ public:
     /// Moves a child to another position, both counted from 0. False for a position outside.
     bool MoveChild(int from, int to);
 
+    /// Takes one child out of the list and hands it out when this node owned it; null for a child of
+    /// the caller's, and for a node that is no child, which stays where it is.
+    std::unique_ptr<CProjectNode> ReleaseChild(CProjectNode* child);
+
     /// Takes the children that `which` names out of the list, in one pass, and hands out those that
     /// this node owned: they go with the result.
     std::vector<std::unique_ptr<CProjectNode>> ReleaseChildren(
@@ -103,7 +108,7 @@ public:
 
     /// The child at `index`, counted from 0, or null.
     CProjectNode* GetChild(int index);
-    int GetNumChildren() const { return static_cast<int>(m_children.size()); }
+    int GetNumChildren() const;
 
     CProjectNode* GetParent() const { return m_parent; }
     /// Stores the parent alone; the list of children is `AddChild`'s affair.
@@ -115,6 +120,10 @@ public:
 
     /// The first direct child of that ID, its position in `index` when that is not null.
     CProjectNode* FindChildByID(unsigned long id, int* index);
+
+    /// Those direct children of that ID that take it to a file (see `IsTaken`), in the order of the
+    /// list. Finds them without a walk over it.
+    std::vector<CProjectNode*> FindChildrenByID(long id);
     /// @}
 
     /// @name Identity
@@ -132,8 +141,8 @@ public:
     static long GetNewID();
 
     /// True when a node of this one's tree other than `but` has that ID and takes it to a file: a
-    /// title, menu, data file, button, text or overlay. The first question counts the tree; what is
-    /// linked, taken out or renumbered later is counted along.
+    /// title, menu, data file, button, text or overlay. The first question makes an index of the
+    /// tree, which what is linked, taken out or renumbered later is entered in.
     bool IsTaken(long id, const CProjectNode* but);
 
     /// A free name for the application's use.
@@ -156,8 +165,17 @@ private:
     bool Link(CProjectNode* child, std::size_t position, bool assignID);
     void Detach(CProjectNode* child);
     bool HangsBelow(const CProjectNode* node) const;
+    bool MakeRoom(std::size_t position);
+    void PutInto(CProjectNode* child, std::size_t position);
+    void TakeOut(std::size_t position);
+    std::span<CProjectNode*> Children();
     CProjectNode& Root();
-    void Count(const CProjectNode& added, long number);
+    struct IDIndex;
+    const IDIndex& Index();
+    template <class Change>
+    void ChangeIndex(const CProjectNode& node, bool deep, Change change);
+    void List(const CProjectNode& node, bool deep);
+    void Unlist(const CProjectNode& node, bool deep);
     vantrel::Status ReadAttributesByMap(const _xmlNode* element);
 
     std::shared_ptr<const std::string> m_documentPath; ///< shared with the parent where equal
@@ -166,9 +184,9 @@ private:
     eNodeType m_type;
     bool m_owned = false; ///< released by `m_holder`
     std::string m_name;
+    std::uint32_t m_firstChild = 0;        ///< free slots before the first child
     std::vector<CProjectNode*> m_children; ///< owned where the child says so
     CProjectNode* m_parent = nullptr;      ///< not owned
     CProjectNode* m_holder = nullptr;      ///< whose list this node stands in; not owned
-    using IDCounts = std::unordered_map<long, long>;
-    std::unique_ptr<IDCounts> m_idCounts; ///< of a root: how many nodes have each ID
+    std::unique_ptr<IDIndex> m_ids;        ///< of a root that was asked
 };

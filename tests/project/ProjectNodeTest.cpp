@@ -2,10 +2,12 @@
 
 #include "disc/DSDataFile.h"
 #include "disc/DSTitle.h"
+#include "project/DSList.h"
 #include "project/Visitor.h"
 #include "support/NodeFixture.h"
 
 #include <memory>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -233,4 +235,46 @@ TEST(Visitor, VisitsANodeBeforeItsChildren)
     title.AddChild(&leaf, false);
     EXPECT_EQ(recorder.Traverse(&title, 42), status::kOk);
     EXPECT_EQ(recorder.visited, (std::vector<long>{ 1, 2 }));
+}
+
+TEST(Tree, KeepsTheOrderOfALongListOverEdits)
+{
+    // Seldom, often and mostly at the front, so that every way of making room is taken.
+    for (const unsigned frontShare : { 0U, 2U, 50U, 98U }) {
+        CDSList list(eNodeTitles);
+        std::vector<std::unique_ptr<CDSList>> made;
+        std::vector<CProjectNode*> expected;
+        std::minstd_rand random(frontShare);
+        const auto place = [&](std::size_t count) {
+            return random() % 100 < frontShare ? 0 : random() % count;
+        };
+        for (int step = 0; step < 4000; ++step) {
+            const bool grows = expected.size() < 2 || (expected.size() < 300 && random() % 3 != 0);
+            if (grows) {
+                made.push_back(std::make_unique<CDSList>(eNodeTitle));
+                const std::size_t at = place(expected.size() + 1);
+                EXPECT_TRUE(list.InsertChild(made.back().get(), static_cast<int>(at), true));
+                expected.insert(expected.begin() + static_cast<std::ptrdiff_t>(at),
+                                made.back().get());
+            } else if (random() % 2 != 0) {
+                const std::size_t from = place(expected.size()), to = place(expected.size());
+                EXPECT_TRUE(list.MoveChild(static_cast<int>(from), static_cast<int>(to)));
+                CProjectNode* const moved = expected[from];
+                expected.erase(expected.begin() + static_cast<std::ptrdiff_t>(from));
+                expected.insert(expected.begin() + static_cast<std::ptrdiff_t>(to), moved);
+            } else {
+                const std::size_t at = place(expected.size());
+                CProjectNode* const gone = expected[at];
+                EXPECT_EQ(list.FindChildrenByID(gone->GetID()), std::vector{ gone });
+                EXPECT_EQ(list.ReleaseChild(gone), nullptr); // the caller's
+                EXPECT_TRUE(list.FindChildrenByID(gone->GetID()).empty());
+                expected.erase(expected.begin() + static_cast<std::ptrdiff_t>(at));
+            }
+            ASSERT_EQ(list.GetNumChildren(), static_cast<int>(expected.size()));
+        }
+        for (std::size_t i = 0; i < expected.size(); ++i)
+            ASSERT_EQ(list.GetChild(static_cast<int>(i)), expected[i]) << frontShare << ' ' << i;
+        made.clear(); // front first
+        EXPECT_EQ(list.GetNumChildren(), 0);
+    }
 }
